@@ -1,0 +1,23 @@
+#include "actions/edit/add_array_number_action.h"
+
+#include <utility>
+
+#include "actions/edit/start_array.h"
+
+namespace kovalt {
+
+AddArrayNumberAction::AddArrayNumberAction(std::string_view keyPath, std::vector<std::string> values)
+    : EditAction(keyPath), values_(std::move(values)) {}
+
+bool AddArrayNumberAction::apply(Value* target, Allocator& allocator) const {
+  if (target == nullptr) {
+    return false;
+  }
+  startArray(*target, values_.size(), allocator);
+  for (const std::string& value : values_) {
+    target->PushBack(std::stoi(value), allocator);
+  }
+  return true;
+}
+
+}  // namespace kovalt

@@ -1,0 +1,28 @@
+#include "actions/edit/edit_action.h"
+
+#include <utility>
+
+#include "json/resolve_key_path.h"
+#include "json/wrap_in_path.h"
+
+namespace kovalt {
+
+EditAction::EditAction(std::string_view keyPath) : keyPath_(keyPath, KeyPath::kStepSeparator) {}
+
+EditAction::~EditAction() = default;
+
+bool EditAction::apply(Value* /*target*/, Allocator& /*allocator*/) const { return true; }
+
+bool applyAtPath(const EditAction& action, Document& document) {
+  Value* target = resolveExisting(action.keyPath(), document);
+  return target != nullptr && action.apply(target, document.GetAllocator());
+}
+
+Value buildPathChain(const EditAction& action, Allocator& allocator) {
+  Value leaf;
+  // What was refused has been reported; the leaf then stays null.
+  action.apply(&leaf, allocator);
+  return wrapInPath(action.keyPath(), std::move(leaf), allocator);
+}
+
+}  // namespace kovalt

@@ -1,0 +1,39 @@
+#pragma once
+
+// The common base of all additions, and how one is carried out.
+
+#include <string_view>
+
+#include "json/document.h"
+#include "json/key_path.h"
+
+namespace kovalt {
+
+/// An addition: it writes one value at the place that its key path names.
+class EditAction {
+ public:
+  explicit EditAction(std::string_view keyPath);
+  EditAction(const EditAction&) = delete;
+  EditAction& operator=(const EditAction&) = delete;
+  virtual ~EditAction();
+
+  /// Writes the action's value into `target`, whatever that held, allocating from `allocator`, the pool of the target's
+  /// document. Returns false, having changed nothing, for a null target or a value that cannot be written; the derived
+  /// action then says why on standard error. The base itself changes nothing and returns true.
+  virtual bool apply(Value* target, Allocator& allocator) const;
+
+  [[nodiscard]] const KeyPath& keyPath() const { return keyPath_; }
+
+ private:
+  KeyPath keyPath_;
+};
+
+/// Applies `action` to the value of `document` that its key path names. Returns what `apply` returned, or false without
+/// calling it where the document has no such value.
+bool applyAtPath(const EditAction& action, Document& document);
+
+/// The value of `action`, made by one call of `apply` on a fresh null, inside one object for each step of its key path:
+/// merged into a document, it adds all that was missing.
+Value buildPathChain(const EditAction& action, Allocator& allocator);
+
+}  // namespace kovalt

@@ -1,0 +1,17 @@
+#pragma once
+
+// The merge of one object into another, by which files are merged and missing keys are made.
+
+#include "json/document.h"
+
+namespace kovalt {
+
+/// Moves the members of `source` into `target`, both objects whose values belong to `allocator`, and leaves emptied
+/// members in `source`. A name that `target` does not have is appended; arrays are concatenated, objects merged,
+/// scalars of the same type replaced. The first member of a name counts.
+///
+/// Two values of different types (true and false are two types) are reported on standard error, and the process ends at
+/// once with status 1. A `source` or `target` that is no object ends it through the library's assertion.
+void mergeValue(Value& target, Value& source, Allocator& allocator);
+
+}  // namespace kovalt

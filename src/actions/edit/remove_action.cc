@@ -1,0 +1,71 @@
+#include "actions/edit/remove_action.h"
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "json/find_member.h"
+
+namespace kovalt {
+namespace {
+
+bool removeMember(Value& object, const std::string& name) {
+  return object.RemoveMember(Value(rapidjson::StringRef(name.data(), static_cast<rapidjson::SizeType>(name.size()))));
+}
+
+/// The objects on the way to the last of `steps`, the root first; nullptr for a step that was skipped because it names
+/// no object. A skipped step is no error: the next one is looked up in the same object.
+std::vector<Value*> collectAncestors(const std::vector<std::string>& steps, Value& root) {
+  std::vector<Value*> ancestors = {&root};
+  Value* current = &root;
+  for (auto step = steps.begin(); step + 1 != steps.end(); ++step) {
+    Value* member = findMember(*current, *step);
+    const bool found = member != nullptr && member->IsObject();
+    ancestors.push_back(found ? member : nullptr);
+    current = found ? member : current;
+  }
+  return ancestors;
+}
+
+/// Removes the ancestors that hold nothing, from the innermost outwards. Those that hold something stay, and so does the
+/// root.
+bool removeEmptyAncestors(const std::vector<std::string>& steps, const std::vector<Value*>& ancestors) {
+  bool removed = true;
+  for (std::size_t i = ancestors.size() - 1; i > 0; --i) {
+    if (ancestors[i] == nullptr || ancestors[i - 1] == nullptr) {
+      // Along a path with a skipped step it is not known what to clear: end before anything is printed or saved.
+      std::abort();
+    }
+    if (ancestors[i]->ObjectEmpty()) {
+      removed &= removeMember(*ancestors[i - 1], steps[i - 1]);
+    }
+  }
+  return removed;
+}
+
+}  // namespace
+
+RemoveAction::RemoveAction(std::string_view keyPath, EmptyParents emptyParents)
+    : KeyPath(keyPath, kStepSeparator), emptyParents_(emptyParents) {}
+
+bool RemoveAction::execute(Document& document) const {
+  if (steps().empty()) {
+    return true;
+  }
+  if (steps().size() == 1) {
+    return removeMember(document, steps().front());
+  }
+  const std::vector<Value*> ancestors = collectAncestors(steps(), document);
+  Value* parent = nullptr;
+  for (Value* ancestor : ancestors) {
+    parent = ancestor != nullptr ? ancestor : parent;
+  }
+  if (findMember(*parent, steps().back()) == nullptr) {
+    // Unlike a single missing step this counts as done, so the file is rewritten.
+    return true;
+  }
+  const bool removed = removeMember(*parent, steps().back());
+  return emptyParents_ == EmptyParents::keep ? removed : removeEmptyAncestors(steps(), ancestors) && removed;
+}
+
+}  // namespace kovalt

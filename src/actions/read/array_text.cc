@@ -1,0 +1,31 @@
+#include "actions/read/array_text.h"
+
+#include <algorithm>
+
+namespace kovalt {
+
+bool isArrayText(const std::string& text) { return !text.empty() && text.front() == '[' && text.back() == ']'; }
+
+void stripBrackets(std::string& text) {
+  text.pop_back();
+  text.erase(0, 1);
+}
+
+void commasToSpaces(std::string& text) {
+  if (text.find('"') == std::string::npos) {
+    std::replace(text.begin(), text.end(), ',', ' ');
+    return;
+  }
+  bool inQuotes = false;
+  for (auto byte = text.begin(); byte != text.end() - 1; ++byte) {
+    if (*byte == '"') {
+      inQuotes = !inQuotes;
+    } else if (*byte == ',' && !inQuotes) {
+      *byte = ' ';
+    }
+  }
+}
+
+void removeQuotes(std::string& text) { text.erase(std::remove(text.begin(), text.end(), '"'), text.end()); }
+
+}  // namespace kovalt

@@ -1,0 +1,49 @@
+#include "actions/read/print_read_results.h"
+
+#include <string>
+
+#include "json/print_value.h"
+#include "json/standard_streams.h"
+
+namespace kovalt {
+namespace {
+
+void printSingle(const ReadAction& action, const Document& document) {
+  std::string text;
+  if (action.execute(document, text)) {
+    printLine(text);
+  }
+}
+
+Value makeString(const std::string& text, Allocator& allocator) {
+  return {text.data(), static_cast<rapidjson::SizeType>(text.size()), allocator};
+}
+
+void printGathered(const std::vector<std::unique_ptr<ReadAction>>& actions, Document& document) {
+  Allocator& allocator = document.GetAllocator();
+  Value results(rapidjson::kObjectType);
+  for (const auto& action : actions) {
+    std::string text;
+    if (action->execute(document, text)) {
+      // A path that is read twice makes two members.
+      results.AddMember(makeString(action->text(), allocator), makeString(text, allocator), allocator);
+    }
+  }
+  printValue(results);
+}
+
+}  // namespace
+
+bool printReadResults(const std::vector<std::unique_ptr<ReadAction>>& actions, Document& document) {
+  if (actions.empty()) {
+    return false;
+  }
+  if (actions.size() == 1) {
+    printSingle(*actions.front(), document);
+  } else {
+    printGathered(actions, document);
+  }
+  return true;
+}
+
+}  // namespace kovalt

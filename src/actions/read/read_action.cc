@@ -1,0 +1,23 @@
+#include "actions/read/read_action.h"
+
+#include "json/resolve_key_path.h"
+#include "json/value_to_text.h"
+
+namespace kovalt {
+
+ReadAction::ReadAction(std::string_view keyPath) : KeyPath(keyPath, kStepSeparator) {}
+
+bool ReadAction::execute(const Value& value, std::string& text) const {
+  const Value* target = resolveForRead(*this, value);
+  if (target == nullptr) {
+    return false;
+  }
+  text = valueToText(*target, false);
+  if (text.front() == '"') {
+    text.pop_back();
+    text.erase(0, 1);
+  }
+  return true;
+}
+
+}  // namespace kovalt

@@ -1,0 +1,24 @@
+#pragma once
+
+// The reading of one value, which is also the first step of every other read.
+
+#include <string>
+#include <string_view>
+
+#include "json/document.h"
+#include "json/key_path.h"
+
+namespace kovalt {
+
+/// Reads the value that its key path names.
+class ReadAction : public KeyPath {
+ public:
+  explicit ReadAction(std::string_view keyPath);
+
+  /// Puts the compact text of the value, walked from `value`, into `text`, which must be empty; a string goes without its
+  /// outer quotes, but keeps its escapes. Returns false with `text` still empty where there is no such value, which has
+  /// been reported on standard error.
+  virtual bool execute(const Value& value, std::string& text) const;
+};
+
+}  // namespace kovalt

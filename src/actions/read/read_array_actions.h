@@ -1,0 +1,40 @@
+#pragma once
+
+// The flat forms of an array, for shell scripts: no outer brackets, a comma or a space between the elements, with or
+// without the quotes around strings. A value whose text is not in brackets reads as with ReadAction.
+
+#include <string>
+
+#include "actions/read/read_action.h"
+
+namespace kovalt {
+
+/// Commas between the elements, strings quoted.
+class ReadArrayCommaAction : public ReadAction {
+ public:
+  using ReadAction::ReadAction;
+  bool execute(const Value& value, std::string& text) const override;
+};
+
+/// Commas between the elements, no quotes.
+class ReadArrayCommaNoQuoteAction : public ReadAction {
+ public:
+  using ReadAction::ReadAction;
+  bool execute(const Value& value, std::string& text) const override;
+};
+
+/// Spaces between the elements, strings quoted.
+class ReadArraySpaceAction : public ReadAction {
+ public:
+  using ReadAction::ReadAction;
+  bool execute(const Value& value, std::string& text) const override;
+};
+
+/// Spaces between the elements, no quotes.
+class ReadArraySpaceNoQuoteAction : public ReadAction {
+ public:
+  using ReadAction::ReadAction;
+  bool execute(const Value& value, std::string& text) const override;
+};
+
+}  // namespace kovalt

@@ -1,0 +1,52 @@
+#include "actions/read/read_object_array_concat_action.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "actions/read/concat_records.h"
+#include "json/resolve_key_path.h"
+
+namespace kovalt {
+
+ReadObjectArrayConcatAction::ReadObjectArrayConcatAction(std::string_view keyPath,
+                                                         const std::vector<std::string>& fields,
+                                                         std::string_view separators)
+    : ReadAction(keyPath), separators_(separators) {
+  for (const std::string& field : fields) {
+    fields_.push_back(std::make_unique<ReadAction>(field));
+  }
+}
+
+bool ReadObjectArrayConcatAction::execute(const Value& value, std::string& text) const {
+  const Value* target = resolveForRead(*this, value);
+  if (target == nullptr || !target->IsArray()) {
+    return false;
+  }
+  ConcatRecords records;
+  for (const Value& element : target->GetArray()) {
+    records.add(readRecord(element));
+  }
+  text = std::move(records).joinSorted();
+  return true;
+}
+
+std::string ReadObjectArrayConcatAction::readRecord(const Value& element) const {
+  std::string record;
+  for (std::size_t i = 0; i < fields_.size(); ++i) {
+    std::string field;
+    fields_[i]->execute(element, field);
+    if (i > 0) {
+      appendSeparator(record, i - 1);
+    }
+    record += field;
+  }
+  return record;
+}
+
+void ReadObjectArrayConcatAction::appendSeparator(std::string& record, std::size_t fieldIndex) const {
+  if (!separators_.empty()) {
+    record += separators_[std::min(fieldIndex, separators_.size() - 1)];
+  }
+}
+
+}  // namespace kovalt

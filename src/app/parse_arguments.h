@@ -1,0 +1,21 @@
+#pragma once
+
+// The command-line parser.
+
+#include <string>
+#include <vector>
+
+#include "app/tool_context.h"
+
+namespace kovalt {
+
+/// Fills `context` with what the arguments ask for; the first of them, the program's own name, is skipped. No file is
+/// touched. Returns false after printing one line on standard output at the first argument that is wrong, and for a
+/// command line without any argument.
+bool parseArguments(ToolContext& context, int argumentCount, const char* const* arguments);
+
+/// The values of a list: all arguments behind `position` up to the first that is empty or begins with "-", so that a
+/// negative number ends the list too. A single value is cut at its commas. `position` moves on to the last value taken.
+std::vector<std::string> collectValues(int& position, int argumentCount, const char* const* arguments);
+
+}  // namespace kovalt

@@ -1,0 +1,57 @@
+#include "app/run.h"
+
+#include "actions/edit/merge_value.h"
+#include "actions/read/print_read_results.h"
+#include "json/document.h"
+#include "json/load_document.h"
+#include "json/print_value.h"
+#include "json/write_document.h"
+
+namespace kovalt {
+namespace {
+
+/// A file that is missing, unreadable or no JSON counts as an empty object.
+void loadOrStartEmpty(const std::string& filePath, Document& document) {
+  if (filePath.empty() || !loadDocument(filePath, document, false)) {
+    document.SetObject();
+  }
+}
+
+void applyEdits(const ToolContext& context, Document& document) {
+  for (const auto& action : context.editActions) {
+    if (!applyAtPath(*action, document)) {
+      Value chain = buildPathChain(*action, document.GetAllocator());
+      mergeValue(document, chain, document.GetAllocator());
+    }
+  }
+}
+
+/// Whether there were removals and all of them succeeded.
+bool applyRemovals(const ToolContext& context, Document& document) {
+  bool allRemovalsOk = !context.removeActions.empty();
+  for (const auto& action : context.removeActions) {
+    allRemovalsOk &= action->execute(document);
+  }
+  return allRemovalsOk;
+}
+
+}  // namespace
+
+bool run(const ToolContext& context) {
+  Document document;
+  loadOrStartEmpty(context.filePath, document);
+  applyEdits(context, document);
+  const bool allRemovalsOk = applyRemovals(context, document);
+
+  // Any edit at all counts as a modification, even one that failed.
+  const bool modified = !context.editActions.empty() || allRemovalsOk;
+  const bool saveNeeded = !context.filePath.empty() && modified;
+  if (context.displayResult || (context.readActions.empty() && !saveNeeded)) {
+    printValue(document);
+  }
+  const bool saved = !saveNeeded || writeDocument(document, context.filePath);
+  printReadResults(context.readActions, document);
+  return saved;
+}
+
+}  // namespace kovalt

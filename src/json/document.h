@@ -1,0 +1,18 @@
+#pragma once
+
+// The JSON types of the one document of a call.
+
+#include <rapidjson/document.h>
+
+namespace kovalt {
+
+/// The document of a run. Its memory pool takes chunks of 65,536 bytes and frees them together when it is destroyed.
+using Document = rapidjson::Document;
+
+/// The memory pool that holds every value of a document.
+using Allocator = Document::AllocatorType;
+
+/// A value inside a document or on its way into one.
+using Value = Document::ValueType;
+
+}  // namespace kovalt

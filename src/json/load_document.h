@@ -1,0 +1,16 @@
+#pragma once
+
+// The loading of a document.
+
+#include <string>
+
+#include "json/document.h"
+
+namespace kovalt {
+
+/// Reads the JSON file at `path` into `document`. Returns false, with `document` as it was, when the file cannot be
+/// opened, which is reported on standard error only with `reportOpenFailure`, or when its content is not exactly one
+/// JSON value, which is always reported. A number beyond the largest double counts as an error too.
+bool loadDocument(const std::string& path, Document& document, bool reportOpenFailure);
+
+}  // namespace kovalt
