@@ -6,8 +6,8 @@
 
 namespace kovalt {
 
-/// Loads the document, applies all edits and then all removals, displays it, saves it and prints the reads, in this order
-/// whatever the order of the options. Returns false only when the document cannot be saved.
+/// Loads the document, applies all edits and then all removals, displays it, saves it and prints the reads, in this
+/// order whatever the order of the options. Returns false only when the document cannot be saved.
 bool run(const ToolContext& context);
 
 }  // namespace kovalt

@@ -8,8 +8,8 @@
 
 namespace kovalt {
 
-/// Cuts `text` at every `separator`, as reading it line by line with that delimiter does: empty pieces are kept, but none
-/// stands behind a trailing separator, and an empty text has no piece.
+/// Cuts `text` at every `separator`, as reading it line by line with that delimiter does: empty pieces are kept, but
+/// none stands behind a trailing separator, and an empty text has no piece.
 std::vector<std::string> splitAt(std::string_view text, char separator);
 
 }  // namespace kovalt

@@ -4,8 +4,8 @@
 
 namespace kovalt {
 
-/// The text that a call without arguments prints, ended by a line feed. Where it disagrees with the parser it is the text
-/// that users know, kept byte for byte, spaces at line ends included.
+/// The text that a call without arguments prints, ended by a line feed. Where it disagrees with the parser it is the
+/// text that users know, kept byte for byte, spaces at line ends included.
 std::string_view usageText();
 
 }  // namespace kovalt

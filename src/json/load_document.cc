@@ -1,10 +1,10 @@
 #include "json/load_document.h"
 
-#include <cmath>
-#include <cstdio>
-
 #include <rapidjson/filereadstream.h>
 #include <rapidjson/reader.h>
+
+#include <cmath>
+#include <cstdio>
 
 #include "json/standard_streams.h"
 

@@ -1,8 +1,8 @@
 #include "json/print_value.h"
 
-#include <cstdio>
-
 #include <rapidjson/filewritestream.h>
+
+#include <cstdio>
 
 #include "json/standard_streams.h"
 #include "json/write_value.h"

@@ -1,7 +1,8 @@
 #pragma once
 
-// Whole lines on the two standard streams. Each is flushed as it ends, so that both streams sent to one place show their
-// lines in the order in which they were printed. Failures of a stream are not reported: there is nowhere to say so.
+// Whole lines on the two standard streams. Each is flushed as it ends, so that both streams sent to one place show
+// their lines in the order in which they were printed. Failures of a stream are not reported: there is nowhere to say
+// so.
 
 #include <string_view>
 

@@ -1,8 +1,8 @@
 #include "json/write_document.h"
 
-#include <cstdio>
-
 #include <rapidjson/filewritestream.h>
+
+#include <cstdio>
 
 #include "json/standard_streams.h"
 #include "json/write_value.h"

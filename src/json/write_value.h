@@ -2,10 +2,10 @@
 
 // The walk that hands a value to one of the library's writers.
 
-#include <vector>
-
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/writer.h>
+
+#include <vector>
 
 #include "json/document.h"
 

@@ -14,8 +14,8 @@ class AddArrayNumberAction : public EditAction {
   AddArrayNumberAction(std::string_view keyPath, std::vector<std::string> values);
 
   /// Makes `target` an array of the values, each converted as std::stoi does. An array that was there is replaced.
-  /// Returns false only for a null target. A value that is no number throws what std::stoi throws, which nobody catches:
-  /// the call ends there, before any output.
+  /// Returns false only for a null target. A value that is no number throws what std::stoi throws, which nobody
+  /// catches: the call ends there, before any output.
   bool apply(Value* target, Allocator& allocator) const override;
 
  private:

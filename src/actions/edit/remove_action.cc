@@ -13,22 +13,31 @@ bool removeMember(Value& object, const std::string& name) {
   return object.RemoveMember(Value(rapidjson::StringRef(name.data(), static_cast<rapidjson::SizeType>(name.size()))));
 }
 
-/// The objects on the way to the last of `steps`, the root first; nullptr for a step that was skipped because it names
-/// no object. A skipped step is no error: the next one is looked up in the same object.
-std::vector<Value*> collectAncestors(const std::vector<std::string>& steps, Value& root) {
-  std::vector<Value*> ancestors = {&root};
-  Value* current = &root;
+/// The way to the object that holds the last step of a path.
+struct Walk {
+  /// The object of each step but the last, behind the root; nullptr for a step that was skipped.
+  std::vector<Value*> ancestors;
+  /// The innermost of them.
+  Value* parent;
+};
+
+/// A step that names no object is no error: it is skipped, and the next one is looked up in the same object.
+Walk walkToParent(const std::vector<std::string>& steps, Value& root) {
+  Walk walk = {{&root}, &root};
   for (auto step = steps.begin(); step + 1 != steps.end(); ++step) {
-    Value* member = findMember(*current, *step);
-    const bool found = member != nullptr && member->IsObject();
-    ancestors.push_back(found ? member : nullptr);
-    current = found ? member : current;
+    Value* member = findMember(*walk.parent, *step);
+    if (member != nullptr && member->IsObject()) {
+      walk.ancestors.push_back(member);
+      walk.parent = member;
+    } else {
+      walk.ancestors.push_back(nullptr);
+    }
   }
-  return ancestors;
+  return walk;
 }
 
-/// Removes the ancestors that hold nothing, from the innermost outwards. Those that hold something stay, and so does the
-/// root.
+/// Removes the ancestors that hold nothing, from the innermost outwards. Those that hold something stay, and so does
+/// the root.
 bool removeEmptyAncestors(const std::vector<std::string>& steps, const std::vector<Value*>& ancestors) {
   bool removed = true;
   for (std::size_t i = ancestors.size() - 1; i > 0; --i) {
@@ -55,17 +64,13 @@ bool RemoveAction::execute(Document& document) const {
   if (steps().size() == 1) {
     return removeMember(document, steps().front());
   }
-  const std::vector<Value*> ancestors = collectAncestors(steps(), document);
-  Value* parent = nullptr;
-  for (Value* ancestor : ancestors) {
-    parent = ancestor != nullptr ? ancestor : parent;
-  }
-  if (findMember(*parent, steps().back()) == nullptr) {
+  const Walk walk = walkToParent(steps(), document);
+  if (findMember(*walk.parent, steps().back()) == nullptr) {
     // Unlike a single missing step this counts as done, so the file is rewritten.
     return true;
   }
-  const bool removed = removeMember(*parent, steps().back());
-  return emptyParents_ == EmptyParents::keep ? removed : removeEmptyAncestors(steps(), ancestors) && removed;
+  const bool removed = removeMember(*walk.parent, steps().back());
+  return emptyParents_ == EmptyParents::keep ? removed : removeEmptyAncestors(steps(), walk.ancestors) && removed;
 }
 
 }  // namespace kovalt

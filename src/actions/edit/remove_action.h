@@ -15,8 +15,8 @@ class RemoveAction : public KeyPath {
  public:
   RemoveAction(std::string_view keyPath, EmptyParents emptyParents);
 
-  /// Removes the member from `document`, and with `EmptyParents::clear` also every object on the way that is then empty.
-  /// The last member of an object takes the place of the removed one. Prints nothing.
+  /// Removes the member from `document`, and with `EmptyParents::clear` also every object on the way that is then
+  /// empty. The last member of an object takes the place of the removed one. Prints nothing.
   ///
   /// Returns whether all went well: a path without steps and a path of several steps whose last is missing count as
   /// well, a path of a single missing step does not. Ends the process where a single step meets a root that is no

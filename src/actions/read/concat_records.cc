@@ -6,10 +6,10 @@
 namespace kovalt {
 
 void ConcatRecords::add(std::string text) {
-  const auto known =
-      std::find_if(records_.begin(), records_.end(), [&](const ConcatRecord& record) { return record.text == text; });
-  if (known != records_.end()) {
-    ++known->count;
+  const auto textAt = [this](std::size_t i) { return std::string_view(records_[i].text); };
+  const std::size_t position = index_.find(text, records_.size(), textAt);
+  if (position < records_.size()) {
+    ++records_[position].count;
   } else {
     records_.push_back({std::move(text)});
   }

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "json/first_match_index.h"
+
 namespace kovalt {
 
 /// A record text and the number of elements that made it.
@@ -26,6 +28,7 @@ class ConcatRecords {
 
  private:
   std::vector<ConcatRecord> records_;
+  FirstMatchIndex index_;
 };
 
 }  // namespace kovalt

@@ -15,9 +15,9 @@ class ReadAction : public KeyPath {
  public:
   explicit ReadAction(std::string_view keyPath);
 
-  /// Puts the compact text of the value, walked from `value`, into `text`, which must be empty; a string goes without its
-  /// outer quotes, but keeps its escapes. Returns false with `text` still empty where there is no such value, which has
-  /// been reported on standard error.
+  /// Puts the compact text of the value, walked from `value`, into `text`, which must be empty; a string goes without
+  /// its outer quotes, but keeps its escapes. Returns false with `text` still empty where there is no such value, which
+  /// has been reported on standard error.
   virtual bool execute(const Value& value, std::string& text) const;
 };
 

@@ -1,0 +1,70 @@
+// The least that the JSON library needs for a file, with the same streams and buffers as the tool, to compare with.
+//   bare_json load FILE        parses it
+//   bare_json save FILE OUT    parses it and writes it, indented by two spaces
+//   bare_json display FILE     parses it, makes its indented text, copies that and prints it
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include <rapidjson/document.h>
+#include <rapidjson/filereadstream.h>
+#include <rapidjson/filewritestream.h>
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
+
+namespace {
+
+bool load(const char* path, rapidjson::Document& document) {
+  std::FILE* file = std::fopen(path, "r");
+  if (file == nullptr) {
+    return false;
+  }
+  char buffer[8192];
+  rapidjson::FileReadStream stream(file, buffer, sizeof(buffer));
+  document.ParseStream(stream);
+  std::fclose(file);
+  return !document.HasParseError();
+}
+
+void save(const rapidjson::Document& document, const char* path) {
+  std::FILE* file = std::fopen(path, "wb");
+  if (file == nullptr) {
+    return;
+  }
+  char buffer[65536];
+  rapidjson::FileWriteStream stream(file, buffer, sizeof(buffer));
+  rapidjson::PrettyWriter<rapidjson::FileWriteStream> writer(stream);
+  writer.SetIndent(' ', 2);
+  document.Accept(writer);
+  std::fclose(file);
+}
+
+std::string text(const rapidjson::Document& document) {
+  rapidjson::StringBuffer buffer;
+  rapidjson::PrettyWriter<rapidjson::StringBuffer> writer(buffer);
+  document.Accept(writer);
+  return buffer.GetString();
+}
+
+}  // namespace
+
+int main(int argumentCount, char* arguments[]) {
+  if (argumentCount < 3) {
+    return EXIT_FAILURE;
+  }
+  const std::string_view mode = arguments[1];
+  rapidjson::Document document;
+  if (!load(arguments[2], document)) {
+    return EXIT_FAILURE;
+  }
+  if (mode == "save" && argumentCount == 4) {
+    save(document, arguments[3]);
+  } else if (mode == "display") {
+    const std::string shown = text(document);
+    std::fwrite(shown.data(), 1, shown.size(), stdout);
+    std::fputc('\n', stdout);
+  }
+  return EXIT_SUCCESS;
+}

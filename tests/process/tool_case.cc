@@ -1,0 +1,301 @@
+#include "tool_case.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <ostream>
+
+namespace kovalt::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr unsigned kUnprivilegedUser = 65534;
+
+/// A fresh folder, removed with all that is in it.
+class WorkingFolder {
+ public:
+  WorkingFolder() {
+    std::string pattern = (fs::temp_directory_path() / "kovalt-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) {
+      throw std::runtime_error("cannot make a working folder");
+    }
+    path_ = pattern;
+  }
+  WorkingFolder(const WorkingFolder&) = delete;
+  WorkingFolder& operator=(const WorkingFolder&) = delete;
+  ~WorkingFolder() {
+    for (const auto& entry : fs::recursive_directory_iterator(path_)) {
+      if (!entry.is_symlink() && entry.is_directory()) {
+        fs::permissions(entry.path(), fs::perms::owner_all);
+      }
+    }
+    fs::remove_all(path_);
+  }
+
+  [[nodiscard]] const fs::path& path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+/// An unnamed file that takes one of the program's streams.
+class CapturedStream {
+ public:
+  CapturedStream() : file_(std::tmpfile()) {
+    if (file_ == nullptr) {
+      throw std::runtime_error("cannot make a file for a stream");
+    }
+    fcntl(descriptor(), F_SETFL, O_APPEND);
+  }
+  CapturedStream(const CapturedStream&) = delete;
+  CapturedStream& operator=(const CapturedStream&) = delete;
+  ~CapturedStream() { std::fclose(file_); }
+
+  [[nodiscard]] int descriptor() const { return fileno(file_); }
+
+  [[nodiscard]] std::string content() const {
+    std::string bytes;
+    std::rewind(file_);
+    char buffer[65536];
+    for (std::size_t count = 0; (count = std::fread(buffer, 1, sizeof(buffer), file_)) > 0;) {
+      bytes.append(buffer, count);
+    }
+    return bytes;
+  }
+
+ private:
+  std::FILE* file_;
+};
+
+void writeEntry(const fs::path& path, const Entry& entry) {
+  fs::create_directories(path.parent_path());
+  switch (entry.kind) {
+    case Entry::Kind::directory:
+      fs::create_directories(path);
+      break;
+    case Entry::Kind::symbolicLink:
+      fs::create_symlink(entry.content, path);
+      return;
+    case Entry::Kind::file:
+      std::ofstream(path, std::ios::binary) << entry.content;
+      break;
+  }
+  fs::permissions(path, static_cast<fs::perms>(entry.mode));
+}
+
+std::string readFile(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// Everything below a folder, by its relative path.
+std::map<std::string, std::string> listFiles(const fs::path& folder) {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    const std::string name = entry.path().lexically_relative(folder).string();
+    if (entry.is_symlink()) {
+      files[name] = "link to " + fs::read_symlink(entry.path()).string();
+    } else if (entry.is_directory()) {
+      files[name + "/"] = "";
+    } else {
+      files[name] = readFile(entry.path());
+    }
+  }
+  return files;
+}
+
+/// The modes of all files below a folder.
+std::map<std::string, fs::perms> listModes(const fs::path& folder) {
+  std::map<std::string, fs::perms> modes;
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    if (!entry.is_symlink() && !entry.is_directory()) {
+      modes[entry.path().lexically_relative(folder).string()] = entry.status().permissions();
+    }
+  }
+  return modes;
+}
+
+int openOutput(bool closed, bool full, const CapturedStream& stream) {
+  if (closed) {
+    return -1;
+  }
+  return full ? open("/dev/full", O_WRONLY) : dup(stream.descriptor());
+}
+
+void giveTo(unsigned user, const fs::path& folder) {
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    if (lchown(entry.path().c_str(), user, user) != 0) {
+      throw std::runtime_error("cannot give away " + entry.path().string());
+    }
+  }
+  if (chown(folder.c_str(), user, user) != 0) {
+    throw std::runtime_error("cannot give away the working folder");
+  }
+}
+
+/// What the child process does between fork and exec; it never returns.
+[[noreturn]] void execute(const std::vector<std::string>& arguments, const fs::path& folder, int output, int errors,
+                          bool dropPrivileges) {
+  // Opened before the privileges go: the build folder may be closed to others.
+  const int program = open(KOVALT_PROGRAM, O_RDONLY | O_CLOEXEC);
+  std::vector<char*> argumentVector;
+  std::string name = "Kovalt";
+  argumentVector.push_back(name.data());
+  for (const std::string& argument : arguments) {
+    argumentVector.push_back(const_cast<char*>(argument.c_str()));
+  }
+  argumentVector.push_back(nullptr);
+
+  close(STDIN_FILENO);
+  open("/dev/null", O_RDONLY);
+  if (output < 0) {
+    close(STDOUT_FILENO);
+  } else {
+    dup2(output, STDOUT_FILENO);
+  }
+  dup2(errors, STDERR_FILENO);
+  if (chdir(folder.c_str()) == 0 &&
+      (!dropPrivileges || (setgid(kUnprivilegedUser) == 0 && setuid(kUnprivilegedUser) == 0))) {
+    fexecve(program, argumentVector.data(), environ);
+  }
+  _exit(127);
+}
+
+}  // namespace
+
+Case& Case::given(const std::string& path, std::string content, unsigned mode) {
+  before_[path] = {Entry::Kind::file, std::move(content), mode};
+  return *this;
+}
+
+Case& Case::givenDirectory(const std::string& path, unsigned mode) {
+  before_[path] = {Entry::Kind::directory, "", mode};
+  return *this;
+}
+
+Case& Case::givenSymbolicLink(const std::string& path, std::string target) {
+  before_[path] = {Entry::Kind::symbolicLink, std::move(target), 0};
+  return *this;
+}
+
+Case& Case::call(std::vector<std::string> arguments) {
+  arguments_ = std::move(arguments);
+  return *this;
+}
+
+Case& Case::withoutPrivileges() {
+  unprivileged_ = true;
+  return *this;
+}
+
+Case& Case::withClosedOutput() {
+  outputPlace_ = Output::closed;
+  return *this;
+}
+
+Case& Case::withFullOutput() {
+  outputPlace_ = Output::full;
+  return *this;
+}
+
+Case& Case::withMergedStreams() {
+  merged_ = true;
+  return *this;
+}
+
+Case& Case::prints(std::string bytes) {
+  output_ = std::move(bytes);
+  return *this;
+}
+
+Case& Case::reports(std::string bytes) {
+  errors_ = std::move(bytes);
+  return *this;
+}
+
+Case& Case::exits(int status) {
+  status_ = status;
+  return *this;
+}
+
+Case& Case::aborts(std::string fragment) {
+  aborts_ = true;
+  abortFragment_ = std::move(fragment);
+  return *this;
+}
+
+Case& Case::leaves(const std::string& path, std::string content) {
+  changed_[path] = std::move(content);
+  return *this;
+}
+
+void Case::check() const {
+  const WorkingFolder folder;
+  const CapturedStream output;
+  const CapturedStream errors;
+  // Folders last, so that their modes do not keep the files inside from being made.
+  for (const bool folders : {false, true}) {
+    for (const auto& [path, entry] : before_) {
+      if ((entry.kind == Entry::Kind::directory) == folders) {
+        writeEntry(folder.path() / path, entry);
+      }
+    }
+  }
+  std::map<std::string, std::string> expectedFiles = listFiles(folder.path());
+  for (const auto& [path, content] : changed_) {
+    expectedFiles[path] = content;
+  }
+  const std::map<std::string, fs::perms> modesBefore = listModes(folder.path());
+  const bool dropPrivileges = unprivileged_ && geteuid() == 0;
+  if (dropPrivileges) {
+    giveTo(kUnprivilegedUser, folder.path());
+  }
+
+  const int outputDescriptor = openOutput(outputPlace_ == Output::closed, outputPlace_ == Output::full, output);
+  const int errorDescriptor = merged_ ? output.descriptor() : errors.descriptor();
+  const pid_t child = fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    execute(arguments_, folder.path(), outputDescriptor, errorDescriptor, dropPrivileges);
+  }
+  if (outputDescriptor >= 0) {
+    close(outputDescriptor);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+
+  EXPECT_EQ(output.content(), output_) << "standard output";
+  if (aborts_) {
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT)
+        << "not ended by SIGABRT but with status " << status;
+    EXPECT_EQ(errors.content().substr(0, errors_.size()), errors_) << "start of standard error";
+    EXPECT_NE(errors.content().find(abortFragment_, errors_.size()), std::string::npos)
+        << "standard error lacks " << abortFragment_ << ":\n"
+        << errors.content();
+  } else {
+    EXPECT_TRUE(WIFEXITED(status)) << "ended by signal " << WTERMSIG(status);
+    EXPECT_EQ(WEXITSTATUS(status), status_) << "exit status";
+    EXPECT_EQ(errors.content(), errors_) << "standard error";
+  }
+  EXPECT_EQ(listFiles(folder.path()), expectedFiles) << "files after the call";
+  std::map<std::string, fs::perms> modesAfter = listModes(folder.path());
+  for (const auto& [path, mode] : modesBefore) {
+    EXPECT_EQ(modesAfter[path], mode) << "mode of " << path;
+  }
+}
+
+void PrintTo(const Case& row, std::ostream* out) { *out << row.name(); }
+
+std::string rowName(const testing::TestParamInfo<Case>& info) { return info.param.name(); }
+
+TEST_P(ToolCall, LeavesExactBytes) { GetParam().check(); }
+
+}  // namespace kovalt::test

@@ -1,0 +1,97 @@
+// The text in which numbers and strings are written, whatever their text was in the file that they came from.
+
+#include "tool_case.h"
+
+namespace kovalt::test {
+namespace {
+
+/// A file that holds the one value `text`, and the text as which it is displayed.
+Case value(const std::string& name, const std::string& text, const std::string& displayed) {
+  return Case(name).given("f.json", text).call({"--file", "f.json"}).prints(displayed + "\n");
+}
+
+std::vector<Case> numberRows() {
+  return {
+      value("integer", "7", "7"),
+      value("negative_integer", "-7", "-7"),
+      value("zero", "0", "0"),
+      value("negative_zero_integer", "-0", "0"),
+      value("integer_above_signed_32_bits", "2147483648", "2147483648"),
+      value("integer_above_unsigned_32_bits", "4294967296", "4294967296"),
+      value("integer_below_signed_32_bits", "-2147483649", "-2147483649"),
+      value("integer_above_exact_floating_numbers", "9007199254740993", "9007199254740993"),
+      value("largest_signed_integer", "9223372036854775807", "9223372036854775807"),
+      value("smallest_integer", "-9223372036854775808", "-9223372036854775808"),
+      value("largest_unsigned_integer", "18446744073709551615", "18446744073709551615"),
+      value("integer_above_64_bits_becomes_floating", "20000000000000000000", "20000000000000000000.0"),
+      value("integer_below_64_bits_becomes_floating", "-10000000000000000000", "-10000000000000000000.0"),
+
+      value("whole_floating_number_keeps_its_point", "7.0", "7.0"),
+      value("whole_floating_number_drops_spare_zeros", "7.000", "7.0"),
+      value("floating_zero", "0.0", "0.0"),
+      value("negative_floating_zero", "-0.0", "-0.0"),
+      value("zero_with_an_exponent", "0e5", "0.0"),
+      value("fraction", "0.1", "0.1"),
+      value("fraction_drops_spare_zeros", "1.10", "1.1"),
+      value("negative_fraction", "-2.5", "-2.5"),
+      value("exponent_makes_a_floating_number", "1e5", "100000.0"),
+      value("capital_exponent_with_a_sign", "1E+2", "100.0"),
+      value("negative_exponent", "100e-2", "1.0"),
+      value("fraction_with_an_exponent", "2.5e10", "25000000000.0"),
+      value("largest_power_without_an_exponent", "1e20", "100000000000000000000.0"),
+      value("smallest_power_with_an_exponent", "1e21", "1e21"),
+      value("digits_with_an_exponent", "1.5e300", "1.5e300"),
+      value("small_number_without_an_exponent", "1e-6", "0.000001"),
+      value("small_number_with_an_exponent", "0.0000001", "1e-7"),
+      value("small_digits_with_an_exponent", "0.00000015", "1.5e-7"),
+      value("largest_power", "1e308", "1e308"),
+      value("too_small_a_number_is_zero", "1e-400", "0.0"),
+      value("conversion_is_not_of_full_precision", "1e-23", "1.0000000000000001e-23"),
+      value("conversion_rounds_each_step", "1e-30", "9.999999999999999e-31"),
+
+      Case("saved_numbers")
+          .given("f.json", "[7,7.0,-0.0,1e5,1e21,1e-23]")
+          .call({"--file", "f.json", "--remove", ""})
+          .leaves("f.json", "[\n  7,\n  7.0,\n  -0.0,\n  100000.0,\n  1e21,\n  1.0000000000000001e-23\n]"),
+      Case("compact_numbers")
+          .given("f.json", "[7, 7.0, -0.0, 1e5, 1e21, 0.10]")
+          .call({"--file", "f.json", "--read", ""})
+          .prints("[7,7.0,-0.0,100000.0,1e21,0.1]\n"),
+  };
+}
+
+std::vector<Case> stringRows() {
+  return {
+      value("quote_and_backslash", R"("a\"b\\c")", R"("a\"b\\c")"),
+      value("short_escapes", R"("\b\f\n\r\t")", R"("\b\f\n\r\t")"),
+      value("short_escapes_given_by_number", R"("\u0008\u000c\u000a\u000d\u0009")", R"("\b\f\n\r\t")"),
+      value("control_characters_have_capital_digits", R"("\u0001\u000b\u001f")", R"("\u0001\u000B\u001F")"),
+      value("nul", R"("a\u0000b")", R"("a\u0000b")"),
+      value("delete_is_no_control_character", R"("\u007f")", "\"\x7F\""),
+      value("slash_is_not_escaped", R"("a\/b/c")", R"("a/b/c")"),
+      value("escaped_letter", R"("\u0041")", R"("A")"),
+      value("apostrophe_and_markup", R"("'<&>")", R"("'<&>")"),
+      value("non_ascii_bytes", "\"\xC3\xA9\xE2\x82\xAC\"", "\"\xC3\xA9\xE2\x82\xAC\""),
+      value("non_ascii_escapes", R"("\u00e9\u20AC")", "\"\xC3\xA9\xE2\x82\xAC\""),
+      value("surrogate_pair", R"("\ud83d\ude00")", "\"\xF0\x9F\x98\x80\""),
+      value("bytes_that_are_no_utf8_are_kept", "\"\xFF\xC3\"", "\"\xFF\xC3\""),
+      Case("names_are_escaped_like_strings")
+          .given("f.json", R"({"\"\\\u0000\u001f\/\u00e9":1})")
+          .call({"--file", "f.json"})
+          .prints("{\n    \"\\\"\\\\\\u0000\\u001F/\xC3\xA9\": 1\n}\n"),
+      Case("saved_strings")
+          .given("f.json", R"(["\u0001\u001f\n\"\\\/\u00e9\u0000"])")
+          .call({"--file", "f.json", "--remove", ""})
+          .leaves("f.json", "[\n  \"\\u0001\\u001F\\n\\\"\\\\/\xC3\xA9\\u0000\"\n]"),
+      Case("compact_strings")
+          .given("f.json", R"(["\u0001\u001f\n\"\\\/\u00e9\u0000"])")
+          .call({"--file", "f.json", "--read", ""})
+          .prints("[\"\\u0001\\u001F\\n\\\"\\\\/\xC3\xA9\\u0000\"]\n"),
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(NumberText, ToolCall, testing::ValuesIn(numberRows()), rowName);
+INSTANTIATE_TEST_SUITE_P(StringText, ToolCall, testing::ValuesIn(stringRows()), rowName);
+
+}  // namespace
+}  // namespace kovalt::test
