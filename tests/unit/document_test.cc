@@ -1,0 +1,33 @@
+// The settings of the JSON library that the program counts on, in every kind of build.
+
+#include "json/document.h"
+
+#include "json_text.h"
+
+namespace kovalt::test {
+namespace {
+
+TEST(DocumentDeathTest, ChecksThatAnObjectIsOne) {
+  const Value number(1);
+  EXPECT_DEATH(number.MemberBegin(), "IsObject\\(\\)");
+}
+
+TEST(DocumentDeathTest, ChecksThatAnArrayIsOne) {
+  const Value text("a");
+  EXPECT_DEATH(text.Begin(), "IsArray\\(\\)");
+}
+
+TEST(DocumentDeathTest, ChecksIndexes) {
+  const Document array = parsed("[1]");
+  EXPECT_DEATH(array[1].IsNull(), "index < ");
+}
+
+TEST(Document, TakesItsMemoryInChunks) {
+  Document document;
+  document.SetObject();
+  document.AddMember("name", "value", document.GetAllocator());
+  EXPECT_EQ(document.GetAllocator().Capacity(), 65536U);
+}
+
+}  // namespace
+}  // namespace kovalt::test
