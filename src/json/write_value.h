@@ -14,72 +14,102 @@ namespace kovalt {
 /// How a text is laid out: without any white space, or indented by a number of spaces for each level.
 enum class TextLayout { compact, fileIndented, screenIndented };
 
-/// An array or object whose end has not been written yet.
+inline bool isContainer(const Value& value) { return value.IsObject() || value.IsArray(); }
+
+/// Hands a value that holds no others to `writer`.
+template <typename Writer>
+void writeScalar(const Value& value, Writer& writer) {
+  if (value.IsString()) {
+    writer.String(value.GetString(), value.GetStringLength());
+  } else if (value.IsInt()) {
+    writer.Int(value.GetInt());
+  } else if (value.IsDouble()) {
+    writer.Double(value.GetDouble());
+  } else if (value.IsBool()) {
+    writer.Bool(value.GetBool());
+  } else if (value.IsNull()) {
+    writer.Null();
+  } else if (value.IsUint()) {
+    writer.Uint(value.GetUint());
+  } else if (value.IsInt64()) {
+    writer.Int64(value.GetInt64());
+  } else {
+    writer.Uint64(value.GetUint64());
+  }
+}
+
+/// An array or object of which only the first part is written so far.
 class OpenContainer {
  public:
-  explicit OpenContainer(const Value& container) : container_(&container) {
+  /// Writes the start of `container`.
+  template <typename Writer>
+  OpenContainer(const Value& container, Writer& writer) : container_(&container) {
     if (container.IsObject()) {
+      writer.StartObject();
       member_ = container.MemberBegin();
-      memberEnd_ = container.MemberEnd();
     } else {
+      writer.StartArray();
       element_ = container.Begin();
-      elementEnd_ = container.End();
     }
   }
 
-  [[nodiscard]] bool atEnd() const { return element_ == elementEnd_ && member_ == memberEnd_; }
-
-  /// Steps over the next value; inside an object its name is written first.
+  /// Goes on writing up to the next container inside, which is returned, or to the end, when nullptr is returned.
   template <typename Writer>
-  const Value& next(Writer& writer) {
-    if (element_ != nullptr) {
-      return *element_++;
-    }
-    writer.Key(member_->name.GetString(), member_->name.GetStringLength());
-    return (member_++)->value;
-  }
-
-  template <typename Writer>
-  void writeEnd(Writer& writer) const {
-    if (container_->IsObject()) {
-      writer.EndObject(container_->MemberCount());
-    } else {
-      writer.EndArray(container_->Size());
-    }
+  const Value* writeToNextContainer(Writer& writer) {
+    return container_->IsObject() ? writeMembers(writer) : writeElements(writer);
   }
 
  private:
+  template <typename Writer>
+  const Value* writeMembers(Writer& writer) {
+    const auto end = container_->MemberEnd();
+    while (member_ != end) {
+      const Value::Member& member = *member_++;
+      writer.Key(member.name.GetString(), member.name.GetStringLength());
+      if (isContainer(member.value)) {
+        return &member.value;
+      }
+      writeScalar(member.value, writer);
+    }
+    writer.EndObject(container_->MemberCount());
+    return nullptr;
+  }
+
+  template <typename Writer>
+  const Value* writeElements(Writer& writer) {
+    const Value* end = container_->End();
+    while (element_ != end) {
+      const Value& element = *element_++;
+      if (isContainer(element)) {
+        return &element;
+      }
+      writeScalar(element, writer);
+    }
+    writer.EndArray(container_->Size());
+    return nullptr;
+  }
+
   const Value* container_;
-  const Value* element_ = nullptr;
-  const Value* elementEnd_ = nullptr;
   Value::ConstMemberIterator member_;
-  Value::ConstMemberIterator memberEnd_;
+  const Value* element_ = nullptr;
 };
 
 /// Hands `root` and all that is in it to `writer`, in document order. Open containers are kept on the heap instead of
 /// the call stack, so that no depth of nesting can end the process in the middle of a file.
 template <typename Writer>
 void writeValue(const Value& root, Writer& writer) {
+  if (!isContainer(root)) {
+    writeScalar(root, writer);
+    return;
+  }
   std::vector<OpenContainer> open;
-  const Value* value = &root;
-  while (true) {
-    if (value->IsObject()) {
-      writer.StartObject();
-      open.emplace_back(*value);
-    } else if (value->IsArray()) {
-      writer.StartArray();
-      open.emplace_back(*value);
+  open.emplace_back(root, writer);
+  while (!open.empty()) {
+    if (const Value* container = open.back().writeToNextContainer(writer)) {
+      open.emplace_back(*container, writer);
     } else {
-      value->Accept(writer);
-    }
-    while (!open.empty() && open.back().atEnd()) {
-      open.back().writeEnd(writer);
       open.pop_back();
     }
-    if (open.empty()) {
-      return;
-    }
-    value = &open.back().next(writer);
   }
 }
 
