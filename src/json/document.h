@@ -4,10 +4,13 @@
 
 #include <rapidjson/document.h>
 
+#include "json/aborting_allocator.h"
+
 namespace kovalt {
 
 /// The document of a run. Its memory pool takes chunks of 65,536 bytes and frees them together when it is destroyed.
-using Document = rapidjson::Document;
+using Document =
+    rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<AbortingAllocator>, AbortingAllocator>;
 
 /// The memory pool that holds every value of a document.
 using Allocator = Document::AllocatorType;

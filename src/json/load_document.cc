@@ -50,7 +50,7 @@ bool parse(std::FILE* file, Document& document) {
   rapidjson::FileReadStream stream(file, buffer, sizeof(buffer));
   bool parsed = false;
   auto generate = [&](Document& target) {
-    rapidjson::Reader reader;
+    rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, AbortingAllocator> reader;
     FiniteDocumentBuilder builder(target);
     parsed = !reader.Parse<rapidjson::kParseDefaultFlags>(stream, builder).IsError() && atEnd(stream);
     return parsed;

@@ -7,7 +7,7 @@
 namespace kovalt {
 
 std::string valueToText(const Value& value, bool pretty) {
-  rapidjson::StringBuffer buffer;
+  rapidjson::GenericStringBuffer<rapidjson::UTF8<>, AbortingAllocator> buffer;
   writeText(value, pretty ? TextLayout::screenIndented : TextLayout::compact, buffer);
   return {buffer.GetString(), buffer.GetSize()};
 }

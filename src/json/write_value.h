@@ -117,11 +117,11 @@ void writeValue(const Value& root, Writer& writer) {
 template <typename Stream>
 void writeText(const Value& value, TextLayout layout, Stream& stream) {
   if (layout == TextLayout::compact) {
-    rapidjson::Writer<Stream> writer(stream);
+    rapidjson::Writer<Stream, rapidjson::UTF8<>, rapidjson::UTF8<>, AbortingAllocator> writer(stream);
     writeValue(value, writer);
   } else {
     // Files and the screen are indented differently on purpose.
-    rapidjson::PrettyWriter<Stream> writer(stream);
+    rapidjson::PrettyWriter<Stream, rapidjson::UTF8<>, rapidjson::UTF8<>, AbortingAllocator> writer(stream);
     writer.SetIndent(' ', layout == TextLayout::fileIndented ? 2 : 4);
     writeValue(value, writer);
   }

@@ -1,0 +1,73 @@
+// The memory of the program, counted and made to fail. The linker sends every call of the three functions here
+// (--wrap), those inside the C and C++ libraries too.
+
+#include <cerrno>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+
+extern "C" {
+// Names that the linker gives.
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
+void* __real_malloc(std::size_t size);
+void* __real_calloc(std::size_t count, std::size_t size);
+void* __real_realloc(void* memory, std::size_t size);
+void* __wrap_malloc(std::size_t size);
+void* __wrap_calloc(std::size_t count, std::size_t size);
+void* __wrap_realloc(void* memory, std::size_t size);
+}
+
+namespace {
+
+/// The number in an environment variable, or 0.
+long numberIn(const char* variable) {
+  const char* text = std::getenv(variable);
+  return text == nullptr ? 0 : std::strtol(text, nullptr, 10);
+}
+
+/// How many calls there were since the program's own start: the C library ends in its ways when it cannot even start.
+long calls = 0;
+bool started = false;
+
+/// Whether the call that now begins is one of those that fail: KOVALT_TEST_FAIL_FROM is the number of the first,
+/// counted from 1, KOVALT_TEST_FAIL_COUNT how many follow each other, without end if it is 0.
+bool fails() {
+  static const long first = numberIn("KOVALT_TEST_FAIL_FROM");
+  static const long count = numberIn("KOVALT_TEST_FAIL_COUNT");
+  if (!started) {
+    return false;
+  }
+  const long call = ++calls;
+  const bool failing = first > 0 && call >= first && (count == 0 || call < first + count);
+  if (failing) {
+    errno = ENOMEM;
+  }
+  return failing;
+}
+
+/// Begins the count, and leaves it in the file that KOVALT_TEST_COUNT_FILE names, when the program ends by itself.
+struct Counter {
+  Counter() { started = true; }
+  Counter(const Counter&) = delete;
+  Counter& operator=(const Counter&) = delete;
+  ~Counter() {
+    const long counted = calls;
+    const char* path = std::getenv("KOVALT_TEST_COUNT_FILE");
+    std::FILE* file = path == nullptr ? nullptr : std::fopen(path, "w");
+    if (file != nullptr) {
+      std::fprintf(file, "%ld", counted);
+      std::fclose(file);
+    }
+  }
+};
+
+const Counter counter;
+
+}  // namespace
+
+void* __wrap_malloc(std::size_t size) { return fails() ? nullptr : __real_malloc(size); }
+
+void* __wrap_calloc(std::size_t count, std::size_t size) { return fails() ? nullptr : __real_calloc(count, size); }
+
+void* __wrap_realloc(void* memory, std::size_t size) { return fails() ? nullptr : __real_realloc(memory, size); }
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
