@@ -141,11 +141,19 @@ void giveTo(unsigned user, const fs::path& folder) {
   }
 }
 
+/// The program under test: the one that was built, or what KOVALT_TEST_PROGRAM names in its place, such as another
+/// build or a script that runs the program under a checking tool.
+const char* programPath() {
+  const char* replacement = std::getenv("KOVALT_TEST_PROGRAM");
+  return replacement == nullptr ? KOVALT_PROGRAM : replacement;
+}
+
 /// What the child process does between fork and exec; it never returns.
 [[noreturn]] void execute(const std::vector<std::string>& arguments, const fs::path& folder, int output, int errors,
                           bool dropPrivileges) {
-  // Opened before the privileges go: the build folder may be closed to others.
-  const int program = open(KOVALT_PROGRAM, O_RDONLY | O_CLOEXEC);
+  // Opened before the privileges go: the build folder may be closed to others. It stays open, because the interpreter
+  // of a script opens it again.
+  const int program = open(programPath(), O_RDONLY);
   std::vector<char*> argumentVector;
   std::string name = "Kovalt";
   argumentVector.push_back(name.data());
