@@ -1,8 +1,10 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034
 # Sourced by the scripts that build. Expects the project's folder as the current one.
 
 # What a build needs.
 build_packages=(cmake ninja-build g++ libc6-dev rapidjson-dev)
+# What the tests need besides.
+test_packages=(clang-format jq libgtest-dev man-db mandoc python3 scdoc strace valgrind)
 
 # Brings one target of a preset up to date, or everything without a target. Silent unless it fails.
 build_preset() {

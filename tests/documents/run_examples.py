@@ -1,0 +1,155 @@
+#!/usr/bin/env python3
+"""Runs every example of a document and compares what it shows with what the shell prints, byte for byte.
+
+An example is a fenced block that begins with a "$ " line. Such a line is a command, "> " lines continue it, and all
+others are what it prints on both streams. The blocks of a section share one shell, so a later one may look at "$?" or
+at a variable, and one fresh folder with copies of the example files.
+
+A Markdown block marked "console same" does with other tools what the block in front of it does: it runs in a fresh
+folder of its own, and its last command must print the same, as JSON where both are JSON.
+"""
+
+import argparse
+import json
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+END_OF_OUTPUT = b"\x01\n"
+
+
+class Command:
+    def __init__(self, line_number, text):
+        self.line_number = line_number
+        self.text = text
+        self.expected = ""
+        self.printed = None  # Until it has run.
+
+
+class Block:
+    def __init__(self, section, mark):
+        self.section = section
+        self.same = mark == "console same"
+        self.commands = []
+
+
+def read_blocks(path):
+    """The example blocks of a document, in order."""
+    blocks, block, fence, section = [], None, None, 0
+    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        opening = re.match(r"(\s*)```(.*)$", line)
+        if fence is None:
+            section += line.startswith("#")
+            if opening:
+                fence = opening[1]
+                block = Block(section, opening[2])
+        elif line == fence + "```":
+            fence = None
+            if block.commands:
+                blocks.append(block)
+        else:
+            add_line(block, number, unescape(path, line.removeprefix(fence)))
+    if fence is not None:
+        sys.exit(f"{path}: the last block has no end")
+    return blocks
+
+
+def unescape(path, line):
+    return re.sub(r"\\(.)", r"\1", line) if path.suffix == ".scd" else line
+
+
+def add_line(block, number, line):
+    if line.startswith("$ "):
+        block.commands.append(Command(number, line[2:]))
+    elif block.commands:
+        command = block.commands[-1]
+        if line.startswith("> ") and not command.expected:
+            command.text += "\n" + line[2:]
+        else:
+            command.expected += line + "\n"
+
+
+def run_in_one_shell(commands, program, examples):
+    """Runs the commands in a fresh folder and notes what each of them prints."""
+    with tempfile.TemporaryDirectory() as top:
+        folder = Path(top, "work")
+        shutil.copytree(examples, folder)
+        tools = Path(top, "bin")
+        tools.mkdir()
+        (tools / "Kovalt").symlink_to(program)
+        # The mark after each command's output keeps the status that the next command may ask for.
+        mark = '\n{ status=$?; printf "\\001\\n"; (exit "$status"); }\n'
+        done = subprocess.run(
+            ["bash", "-c", "exec 2>&1\n" + "".join(command.text + mark for command in commands)],
+            cwd=folder,
+            env={**os.environ, "PATH": f"{tools}:{os.environ['PATH']}", "LC_ALL": "C.UTF-8", "HOME": top},
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            timeout=60,
+            check=False,
+        )
+    outputs = done.stdout.split(END_OF_OUTPUT)[:-1]
+    for command, output in zip(commands, outputs):
+        command.printed = output.decode("utf-8")
+
+
+def run_blocks(blocks, program, examples):
+    sections = {}
+    for block in blocks:
+        if block.same:
+            run_in_one_shell(block.commands, program, examples)
+        else:
+            sections.setdefault(block.section, []).extend(block.commands)
+    for commands in sections.values():
+        run_in_one_shell(commands, program, examples)
+
+
+def meaning(text):
+    """What a text says: its JSON value with the order of members, or else the text."""
+    try:
+        return json.loads(text, object_pairs_hook=lambda members: ("object", members))
+    except ValueError:
+        return text
+
+
+def failures(path, blocks):
+    previous = None
+    for block in blocks:
+        for command in block.commands:
+            if command.printed != command.expected:
+                yield (
+                    f"{path}:{command.line_number}: $ {command.text}\n"
+                    f"shown:\n{command.expected}\nprinted:\n{command.printed}\n"
+                )
+        last = block.commands[-1]
+        if block.same and (previous is None or meaning(last.printed) != meaning(previous.printed)):
+            yield f"{path}:{last.line_number}: does not print the same as the block in front of it\n"
+        previous = last
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--program", required=True, type=Path, help="the program that the document calls Kovalt")
+    parser.add_argument("--examples", required=True, type=Path, help="the folder of the example files")
+    parser.add_argument("--at-least", required=True, type=int, help="fewer commands than these are a failure")
+    parser.add_argument("--same-at-least", default=0, type=int, help="fewer blocks marked same are a failure")
+    parser.add_argument("document", type=Path)
+    arguments = parser.parse_args()
+
+    blocks = read_blocks(arguments.document)
+    run_blocks(blocks, arguments.program.resolve(), arguments.examples)
+    found = list(failures(arguments.document, blocks))
+    commands, same = sum(len(block.commands) for block in blocks), sum(block.same for block in blocks)
+    if commands < arguments.at_least or same < arguments.same_at_least:
+        found.append(f"{arguments.document}: only {commands} commands and {same} blocks marked same were found\n")
+    print("\n".join(found), end="")
+    print(f"{arguments.document}: {commands} commands, {same} blocks marked same, {len(found)} failures")
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
