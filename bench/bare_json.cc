@@ -3,16 +3,16 @@
 //   bare_json save FILE OUT    parses it and writes it, indented by two spaces
 //   bare_json display FILE     parses it, makes its indented text, copies that and prints it
 
-#include <cstdio>
-#include <cstdlib>
-#include <string>
-#include <string_view>
-
 #include <rapidjson/document.h>
 #include <rapidjson/filereadstream.h>
 #include <rapidjson/filewritestream.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
 
 namespace {
 
