@@ -1,0 +1,104 @@
+// The inner pieces, each over growing input.
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <string>
+
+#include "actions/edit/merge_value.h"
+#include "actions/read/array_text.h"
+#include "actions/read/concat_records.h"
+#include "json/document.h"
+#include "json/key_path.h"
+#include "json/resolve_key_path.h"
+#include "json/value_to_text.h"
+
+namespace kovalt {
+namespace {
+
+Value numberedObject(const std::string& prefix, std::int64_t size, Allocator& allocator) {
+  Value object(rapidjson::kObjectType);
+  for (std::int64_t i = 0; i < size; ++i) {
+    object.AddMember(Value((prefix + std::to_string(i)).c_str(), allocator), Value(i), allocator);
+  }
+  return object;
+}
+
+void resolveSelection(benchmark::State& state) {
+  Document document;
+  document.SetArray();
+  for (std::int64_t i = 0; i < state.range(0); ++i) {
+    Value element(rapidjson::kObjectType);
+    element.AddMember("id", Value(i), document.GetAllocator());
+    document.PushBack(element, document.GetAllocator());
+  }
+  const KeyPath path("id=" + std::to_string(state.range(0) - 1) + ".id", KeyPath::kStepSeparator);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(resolveExisting(path, document));
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+void mergeObjects(benchmark::State& state, const std::string& sourcePrefix) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto document = std::make_unique<Document>();
+    Value target = numberedObject("a", state.range(0), document->GetAllocator());
+    Value source = numberedObject(sourcePrefix, state.range(0), document->GetAllocator());
+    state.ResumeTiming();
+    mergeValue(target, source, document->GetAllocator());
+    state.PauseTiming();
+    document.reset();
+    state.ResumeTiming();
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+void mergeDistinctNames(benchmark::State& state) { mergeObjects(state, "b"); }
+void mergeSameNames(benchmark::State& state) { mergeObjects(state, "a"); }
+
+void countRecords(benchmark::State& state) {
+  for (auto _ : state) {
+    ConcatRecords records;
+    for (std::int64_t i = 0; i < state.range(0); ++i) {
+      records.add("record " + std::to_string(i));
+    }
+    benchmark::DoNotOptimize(std::move(records).joinSorted());
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+void flattenArrayText(benchmark::State& state) {
+  std::string elements = "[";
+  for (std::int64_t i = 0; i < state.range(0); ++i) {
+    elements += "\"a, b\",";
+  }
+  elements.back() = ']';
+  for (auto _ : state) {
+    std::string text = elements;
+    stripBrackets(text);
+    commasToSpaces(text);
+    removeQuotes(text);
+    benchmark::DoNotOptimize(text);
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+void writeCompactText(benchmark::State& state) {
+  Document document;
+  const Value object = numberedObject("name", state.range(0), document.GetAllocator());
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(valueToText(object, false));
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+BENCHMARK(resolveSelection)->Range(8, 1 << 15)->Complexity();
+BENCHMARK(mergeDistinctNames)->Range(8, 1 << 17)->Complexity();
+BENCHMARK(mergeSameNames)->Range(8, 1 << 17)->Complexity();
+BENCHMARK(countRecords)->Range(8, 1 << 17)->Complexity();
+BENCHMARK(flattenArrayText)->Range(8, 1 << 17)->Complexity();
+BENCHMARK(writeCompactText)->Range(8, 1 << 17)->Complexity();
+
+}  // namespace
+}  // namespace kovalt

@@ -1,0 +1,2 @@
+// The least that a process costs, to compare start-up with.
+int main() { return 0; }
