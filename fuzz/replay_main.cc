@@ -1,0 +1,52 @@
+// Runs a fuzz target on its saved inputs: FOLDER COUNT. Fails where an input shows a defect, and where the folder does
+// not hold exactly COUNT inputs.
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "fuzz/target.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<fs::path> filesOf(const fs::path& folder) {
+  std::vector<fs::path> files;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    files.push_back(fs::absolute(entry.path()));
+  }
+  return files;
+}
+
+void runOn(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  const std::string text{std::istreambuf_iterator<char>(stream), {}};
+  const std::vector<std::uint8_t> bytes(text.begin(), text.end());
+  LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+}
+
+}  // namespace
+
+int main(int argumentCount, char* arguments[]) {
+  if (argumentCount != 3) {
+    std::cerr << "Usage: " << arguments[0] << " FOLDER COUNT\n";
+    return EXIT_FAILURE;
+  }
+  const std::vector<fs::path> files = filesOf(arguments[1]);
+  if (files.size() != std::stoul(arguments[2])) {
+    std::cerr << "Found " << files.size() << " inputs in " << arguments[1] << ", not " << arguments[2] << '\n';
+    return EXIT_FAILURE;
+  }
+  LLVMFuzzerInitialize(&argumentCount, &arguments);
+  for (const fs::path& file : files) {
+    // The last one named is the one that shows the defect.
+    std::cerr << "Input " << file << std::endl;
+    runOn(file);
+  }
+  return EXIT_SUCCESS;
+}
