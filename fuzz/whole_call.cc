@@ -33,6 +33,16 @@ bool loadsAsNoObject(const std::string& text) {
   return loadText(text, document) && !document.IsObject();
 }
 
+/// Whether a file is missing, was left as it was, or holds a document.
+bool isWhole(const std::string& name, const Files& before, const Files& after) {
+  const auto file = after.find(name);
+  if (file == after.end() || (before.count(name) == 1 && before.at(name) == file->second)) {
+    return true;
+  }
+  Document document;
+  return loadText(file->second, document);
+}
+
 /// Only a file whose root is no object, or an edit of the root itself, can bring such a value into a merge or removal.
 bool mayMeetNoObject(const std::vector<std::string>& arguments, const Files& files) {
   return holds(arguments, {""}) ||
@@ -96,7 +106,9 @@ void tryCall(const std::vector<std::string>& arguments, const Files& files) {
     return;
   }
   const Files after = readScratchFiles();
-  expectOtherFilesUntouched(files, after, std::filesystem::path(context.filePath).lexically_normal());
+  const std::string workFile = std::filesystem::path(context.filePath).lexically_normal();
+  expectOtherFilesUntouched(files, after, workFile);
+  expect(isWhole(workFile, files, after), "what a call saves is a document");
   if (context.editActions.empty() && context.removeActions.empty()) {
     expect(after == files, "a call that only reads leaves its file as it was");
   }
