@@ -9,14 +9,14 @@ namespace kovalt::fuzz {
 
 void throwForExit(int status) {
   expect(status == EXIT_FAILURE, "a process that ends early has status 1");
-  throw End::typeClash;
+  throw EarlyEnd{End::typeClash};
 }
 
-void throwForAbort() { throw End::skippedStep; }
+void throwForAbort() { throw EarlyEnd{End::skippedStep}; }
 
 void throwForAssertion(const char* condition) {
   expect(condition == std::string("IsObject()"), std::string("the assertion ") + condition);
-  throw End::noObject;
+  throw EarlyEnd{End::noObject};
 }
 
 }  // namespace kovalt::fuzz

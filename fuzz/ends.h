@@ -11,7 +11,12 @@ enum class End {
   skippedStep,  ///< std::abort: objects are to be cleared along a path that skipped a step.
 };
 
-/// Each throws the `End` that it stands for. Any other status or condition is a defect, and ends the process.
+/// What is thrown at an end.
+struct EarlyEnd {
+  End end;
+};
+
+/// Each throws the end that it stands for. Any other status or condition is a defect, and ends the process.
 [[noreturn]] void throwForExit(int status);
 [[noreturn]] void throwForAbort();
 [[noreturn]] void throwForAssertion(const char* condition);

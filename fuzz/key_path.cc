@@ -3,6 +3,7 @@
 
 #include "json/key_path.h"
 
+#include <algorithm>
 #include <string>
 
 #include "fuzz/input.h"
@@ -54,12 +55,7 @@ bool slowScalarMatch(const Value& value, const std::string& wanted) {
 
 bool slowMatch(const Value& value, const std::string& wanted) {
   if (value.IsArray()) {
-    for (const Value& item : value.GetArray()) {
-      if (slowScalarMatch(item, wanted)) {
-        return true;
-      }
-    }
-    return false;
+    return std::any_of(value.Begin(), value.End(), [&](const Value& item) { return slowScalarMatch(item, wanted); });
   }
   return value.IsBool() ? wanted == (value.GetBool() ? "true" : "false") : slowScalarMatch(value, wanted);
 }

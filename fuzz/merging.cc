@@ -22,8 +22,8 @@ namespace {
 std::optional<End> endOf(const std::function<void()>& work) {
   try {
     work();
-  } catch (End end) {
-    return end;
+  } catch (const EarlyEnd& early) {
+    return early.end;
   }
   return std::nullopt;
 }
@@ -61,6 +61,14 @@ bool tryRemoval(Document& document, const std::string& keyPath, EmptyParents emp
   return !end;
 }
 
+void tryRemovals(Document& original, const std::string& kept, const std::string& cleared) {
+  Document document(&original.GetAllocator());
+  document.CopyFrom(original, original.GetAllocator());
+  if (tryRemoval(document, kept, EmptyParents::keep)) {
+    tryRemoval(document, cleared, EmptyParents::clear);
+  }
+}
+
 void tryInput(std::string input) {
   std::string numbers = takeUpTo("\n", input);
   const std::size_t targetCount = numberIn(takeUpTo(" ", numbers), 200);
@@ -75,14 +83,9 @@ void tryInput(std::string input) {
   }
   widen(target, targetCount, stride, target.GetAllocator());
   widen(source, sourceCount, stride + 1, target.GetAllocator());
-  Document untouched;
-  untouched.CopyFrom(target, untouched.GetAllocator());
-  tryMerge(target, source);
   const std::string kept = takeUpTo("\n", input);
-  const std::string cleared = takeUpTo("\n", input);
-  if (tryRemoval(untouched, kept, EmptyParents::keep)) {
-    tryRemoval(untouched, cleared, EmptyParents::clear);
-  }
+  tryRemovals(target, kept, takeUpTo("\n", input));
+  tryMerge(target, source);
 }
 
 }  // namespace

@@ -68,8 +68,8 @@ bool runsThrough(const ToolContext& context, const std::vector<std::string>& arg
   bool badNumber = false;
   try {
     run(context);
-  } catch (End early) {
-    end = early;
+  } catch (const EarlyEnd& early) {
+    end = early.end;
   } catch (const std::invalid_argument&) {
     badNumber = true;
   } catch (const std::out_of_range&) {
