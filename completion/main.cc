@@ -1,0 +1,50 @@
+// Completes a command line for the completion functions of the shells: takes the position of the word at the cursor,
+// counted from 0, and the words of the line, without the shell's quoting. Prints "files" where file names belong, and
+// "words" and then the candidates, one a line, otherwise. A shell in the middle of a command line is no place for
+// errors: nothing is ever printed on standard error, and the exit status is always 0.
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "completion/complete.h"
+
+namespace {
+
+void print(const kovalt::Completion& completion) {
+  std::string text = completion.takesFile ? "files\n" : "words\n";
+  for (const std::string& line : completion.lines) {
+    text.append(line) += '\n';
+  }
+  std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+void completeAndPrint(const std::vector<std::string>& words, std::string_view position) {
+  std::size_t cursor = 0;
+  const auto [end, error] = std::from_chars(position.data(), position.data() + position.size(), cursor);
+  if (error == std::errc() && cursor > 0 && cursor < words.size()) {
+    print(kovalt::complete(words, cursor));
+  }
+}
+
+}  // namespace
+
+int main(int argumentCount, char* arguments[]) {
+  if (std::freopen("/dev/null", "w", stderr) == nullptr || argumentCount < 3) {
+    return EXIT_SUCCESS;
+  }
+  // A file that nests deeper than the stack is ends the process that reads it; only a child of ours shall end so.
+  const pid_t child = fork();
+  if (child == 0) {
+    completeAndPrint({arguments + 2, arguments + argumentCount}, arguments[1]);
+  } else if (child > 0) {
+    waitpid(child, nullptr, 0);
+  }
+  return EXIT_SUCCESS;
+}
