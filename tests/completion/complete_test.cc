@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <ostream>
@@ -66,8 +67,8 @@ Completion completeLine(Words line) {
 class CompleteLine : public testing::TestWithParam<LineRow> {
  protected:
   void SetUp() override {
-    folder_ = testing::TempDir() + "kovalt-completion-" + GetParam().name;
-    std::filesystem::create_directories(folder_);
+    folder_ = testing::TempDir() + "kovalt-completion-XXXXXX";
+    ASSERT_NE(mkdtemp(folder_.data()), nullptr);
     back_ = std::filesystem::current_path();
     std::filesystem::current_path(folder_);
     std::ofstream("c.json") << R"({"network":{"port":1},"list":[{"id":1,"at":{"host":"h"}}],"flag":true})";
