@@ -1,0 +1,116 @@
+#include <cctype>
+#include <fstream>
+#include <string>
+
+#include "tool_case.h"
+
+namespace kovalt::test {
+namespace {
+
+int hexDigit(char digit) { return digit <= '9' ? digit - '0' : digit - 'A' + 10; }
+
+/// The bytes that the page shows as `text`: those in angle brackets are written as hexadecimal digits.
+std::string bytesOf(const std::string& text) {
+  std::string bytes;
+  bool hexadecimal = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '<' || text[i] == '>') {
+      hexadecimal = text[i] == '<';
+    } else if (!hexadecimal) {
+      bytes += text[i];
+    } else if (text[i] != ' ') {
+      bytes += static_cast<char>(hexDigit(text[i]) * 16 + hexDigit(text[i + 1]));
+      ++i;
+    }
+  }
+  return bytes;
+}
+
+/// What stands in a column of a table between backquotes, or nothing.
+std::string quotedPart(const std::string& column) {
+  const std::size_t start = column.find('`') + 1;
+  return start == 0 ? "" : column.substr(start, column.find('`', start) - start);
+}
+
+Case refusal(const std::string& name, const std::string& input) {
+  return Case(name)
+      .given("in.json", input)
+      .call({"-f", "in.json", "-r", ""})
+      .prints("{}\n")
+      .reports("Could not parse json file in.json\n");
+}
+
+Case acceptance(const std::string& name, const std::string& input, const std::string& text) {
+  return Case(name).given("in.json", input).call({"-f", "in.json", "-r", ""}).prints(text + "\n");
+}
+
+/// The rows of the page that lists the decisions, named by its headings.
+std::vector<Case> pageRows() {
+  std::vector<Case> rows;
+  std::ifstream page(KOVALT_GRAMMAR_PAGE);
+  std::string heading;
+  for (std::string line; std::getline(page, line);) {
+    if (line.rfind("## ", 0) == 0) {
+      heading = line.substr(3);
+      for (char& byte : heading) {
+        byte = std::isalnum(static_cast<unsigned char>(byte)) != 0 ? byte : '_';
+      }
+    } else if (line.rfind("| `", 0) == 0) {
+      const std::string name = heading + "_" + std::to_string(rows.size());
+      const std::size_t second = line.find(" | ");
+      const std::string input = bytesOf(quotedPart(line.substr(0, second)));
+      const std::string decision = line.substr(second + 3);
+      rows.push_back(decision.rfind("refused", 0) == 0 ? refusal(name, input)
+                                                       : acceptance(name, input, bytesOf(quotedPart(decision))));
+    }
+  }
+  return rows;
+}
+
+INSTANTIATE_TEST_SUITE_P(JsonGrammar, ToolCall, testing::ValuesIn(pageRows()), rowName);
+
+TEST(JsonGrammarPage, HoldsRows) { EXPECT_GE(pageRows().size(), 382U); }
+
+TEST(JsonGrammar, RefusesDocumentsCutShortAtEveryByte) {
+  for (const std::string document : {
+           R"({"a":[1,-2.5e+3,true,false,null,"x\"\u00e9\ud834\udd1e"],"b":{"":{}}})",
+           R"([ [ ], { }, "\\", 0.0, 18446744073709551615 ])",
+           R"("a\nb")",
+           "null",
+           "false",
+       }) {
+    for (std::size_t length = 0; length < document.size(); ++length) {
+      SCOPED_TRACE(document.substr(0, length));
+      refusal("cut", document.substr(0, length)).check();
+    }
+  }
+}
+
+TEST(JsonGrammar, TakesDeepNesting) {
+  const std::string arrays = std::string(1000, '[') + std::string(1000, ']');
+  acceptance("arrays", arrays, arrays).check();
+  refusal("one_bracket_short", arrays.substr(1)).check();
+  std::string objects = "1";
+  for (int depth = 0; depth < 1000; ++depth) {
+    objects = "{\"a\":" + objects + "}";
+  }
+  acceptance("objects", objects, objects).check();
+  refusal("one_brace_short", objects.substr(0, objects.size() - 1)).check();
+}
+
+TEST(JsonGrammar, DecidesTheSameAcrossTheBordersOfTheReadBuffer) {
+  // Tokens and what follows them are moved over the end of the buffer byte by byte.
+  for (const std::size_t spaces : {4088U, 8188U}) {
+    for (std::size_t more = 0; more < 12; ++more) {
+      const std::string white(spaces + more, ' ');
+      SCOPED_TRACE(white.size());
+      acceptance("value", white + R"(["\u00e9",-1.5e3,null])", "[\"\xC3\xA9\",-1500.0,null]").check();
+      acceptance("end", "{}" + white, "{}").check();
+      refusal("nul", "{}" + white + std::string(1, '\0')).check();
+      refusal("trailing", "{}" + white + "x").check();
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kovalt::test
