@@ -66,6 +66,13 @@ class Folder:
         return Outcome(child.returncode, child.stdout or b"", child.stderr, self.contents())
 
 
+def arguments():
+    """The program that the command line names, and whether only the quick part of a script is wanted."""
+    quick = "--quick" in sys.argv
+    program = next(argument for argument in sys.argv[1:] if argument != "--quick")
+    return str(pathlib.Path(program).resolve()), quick
+
+
 def call(command, files, **how):
     """Runs a command in a fresh folder that holds `files`."""
     with Folder() as folder:
