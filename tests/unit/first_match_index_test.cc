@@ -3,7 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
 
 namespace kovalt::test {
 namespace {
@@ -72,6 +77,33 @@ TEST(FirstMatchIndex, ComparesAllBytes) {
     }
     EXPECT_EQ(findIn(index, texts, std::string("a\0c", 3)), texts.size());
   }
+}
+
+/// Two texts whose hashes are equal in the 32 bits that the table keeps.
+std::pair<std::string, std::string> equalHashes() {
+  std::unordered_map<std::uint32_t, std::string> seen;
+  for (int i = 0;; ++i) {
+    const std::string text = std::to_string(i);
+    const auto hash = static_cast<std::uint32_t>(std::hash<std::string_view>()(text));
+    const auto [other, isNew] = seen.emplace(hash, text);
+    if (!isNew) {
+      return {other->second, text};
+    }
+  }
+}
+
+TEST(FirstMatchIndex, TellsTextsWithEqualHashesApart) {
+  const auto [one, other] = equalHashes();
+  Texts texts = makeTexts(100, 1);
+  texts.push_back(one);
+  FirstMatchIndex index;
+  for (int round = 0; round < 20; ++round) {
+    ASSERT_EQ(findIn(index, texts, other), texts.size());
+    ASSERT_EQ(findIn(index, texts, one), 100U);
+  }
+  texts.push_back(other);
+  EXPECT_EQ(findIn(index, texts, one), 100U);
+  EXPECT_EQ(findIn(index, texts, other), 101U);
 }
 
 }  // namespace
