@@ -1,11 +1,13 @@
 #pragma once
 
+// The usage text.
+
 #include <string_view>
 
 namespace kovalt {
 
 /// The text that a call without arguments prints, ended by a line feed. Where it disagrees with the parser it is the
-/// text that users know, kept byte for byte, spaces at line ends included.
+/// text that users know, kept byte for byte, runs of spaces included.
 std::string_view usageText();
 
 }  // namespace kovalt

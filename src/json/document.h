@@ -16,8 +16,8 @@ class Document : public rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson:
  public:
   using GenericDocument::GenericDocument;
 
-  /// Takes in a number that the reader found. Stops the reader at one that became infinite: it lets some pass, and the
-  /// writers could not write them.
+  /// Takes in a number that the reader found, in place of the base's operation, as the reader is handed this type.
+  /// Stops the reader at one that became infinite: it lets some pass, and the writers could not write them.
   bool Double(double value) { return std::isfinite(value) && GenericDocument::Double(value); }
 };
 

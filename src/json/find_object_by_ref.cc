@@ -76,7 +76,7 @@ void reportNotFound(std::string_view refKey, std::string_view refValue, bool exp
 }  // namespace
 
 const Value* findObjectByRef(const Value* array, std::string_view refKey, std::string_view refValue) {
-  // A value that is no array gets no explanation, although the explanation speaks of just that: callers rely on it.
+  // A value that is no array gets no explanation, although the explanation speaks of just that. Kept: scripts know it.
   bool explainArgument = false;
   if (array != nullptr && array->IsArray()) {
     for (const Value& element : array->GetArray()) {

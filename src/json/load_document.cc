@@ -21,7 +21,8 @@ bool parse(std::FILE* file, Document& document) {
   char buffer[8192];
   rapidjson::FileReadStream stream(file, buffer, sizeof(buffer));
   bool parsed = false;
-  auto generate = [&](auto& /*document*/) {
+  // The same document is passed in, but as its base, whose builder would take infinite numbers.
+  auto generate = [&](auto& /*base*/) {
     rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, AbortingAllocator> reader;
     parsed = !reader.Parse<rapidjson::kParseDefaultFlags>(stream, document).IsError() && atEnd(stream);
     return parsed;

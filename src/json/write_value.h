@@ -14,6 +14,7 @@ namespace kovalt {
 /// How a text is laid out: without any white space, or indented by a number of spaces for each level.
 enum class TextLayout { compact, fileIndented, screenIndented };
 
+/// Whether `value` can hold others.
 inline bool isContainer(const Value& value) { return value.IsObject() || value.IsArray(); }
 
 /// Hands a value that holds no others to `writer`.

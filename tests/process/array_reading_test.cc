@@ -9,6 +9,10 @@ constexpr auto kMixed = R"({"a": ["a", "b c", 1, true, null]})";
 
 std::vector<Case> rows() {
   return {
+      Case("string_in_brackets_counts_as_an_array_for_the_comma_form")
+          .given("d.json", R"({"a":"[x,y]"})")
+          .call({"-f", "d.json", "-rac", "a"})
+          .prints("x,y\n"),
       Case("an_empty_array_prints_an_empty_line")
           .given("d.json", R"({"a":[ ]})")
           .call({"-f", "d.json", "-ra", "a"})

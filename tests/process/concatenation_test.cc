@@ -14,6 +14,9 @@ constexpr auto kBothSelectionReports =
 
 std::vector<Case> rows() {
   return {
+      Case("an_empty_object_prints_nothing_at_all")
+          .given("d.json", R"({"l":{}})")
+          .call({"-f", "d.json", "-roac", "l", "x"}),
       Case("readObjectArrayConcat_joins_fields_by_spaces")
           .given("d.json", kLinks)
           .call({"--file", "d.json", "--readObjectArrayConcat", "links", "id", "hostname", "port"})

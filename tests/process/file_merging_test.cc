@@ -2,8 +2,19 @@
 
 #include "tool_case.h"
 
+using namespace std::string_literals;
+
 namespace kovalt::test {
 namespace {
+
+/// `count` members n0, n1, ... of one value, each with its comma.
+std::string many(int count, const std::string& value) {
+  std::string text;
+  for (int i = 0; i < count; ++i) {
+    text += "\"n" + std::to_string(i) + "\":" + value + ",";
+  }
+  return text;
+}
 
 /// A merge of one content into another, and the compact text of what it gives.
 Case merging(const std::string& name, const std::string& target, const std::string& source, const std::string& merged) {
@@ -97,6 +108,26 @@ std::vector<Case> mergeRows() {
 
 std::vector<Case> fileRows() {
   return {
+      Case("nul_after_the_value_of_a_merged_file")
+          .given("s.json", "{\"a\":1}\0"s)
+          .call({"--addFile", "s.json", "--read", ""})
+          .prints("{}\n")
+          .reports("Could not parse json file s.json\n"),
+      Case("clash_prints_a_name_with_nul_whole")
+          .given("f.json", R"({"a\u0000b":1})")
+          .given("s.json", R"({"a\u0000b":"x"})")
+          .call({"--file", "f.json", "--addFile", "s.json"})
+          .reports("Incompatible types for key a\0b\n"s)
+          .exits(1),
+      Case("first_of_equal_names_counts_among_many")
+          .given("one.json", "{\"o\":{" + many(40, "0") + many(40, "1") + "\"z\":0}}")
+          .given("two.json", "{" + many(40, "2") + "\"z\":3}")
+          .call({"-af", "one.json", "-afat", "o", "two.json", "-r", "o"})
+          .prints("{" + many(40, "2") + many(40, "1") + "\"z\":3}\n"),
+      Case("new_names_are_found_again_among_many")
+          .given("s.json", "{" + many(60, "1") + many(60, "2") + "\"z\":3}")
+          .call({"-af", "s.json", "-r", ""})
+          .prints("{" + many(60, "2") + "\"z\":3}\n"),
       Case("file_into_an_empty_document")
           .given("s.json", R"({"a":[1]})")
           .call({"--addFile", "s.json"})

@@ -189,6 +189,10 @@ std::vector<Case> removeRows() {
 
 std::vector<Case> clearRows() {
   return {
+      Case("clearing_goes_on_past_an_object_with_members_to_a_skipped_step")
+          .given("f.json", R"({"b":{"c":{"k":1,"l":2}}})")
+          .call({"--fileDisplay", "f.json", "--removeAndClear", "no.b.c.k", "--read", ""})
+          .aborts(),
       Case("emptied_object_is_removed")
           .given("f.json", R"({"obj":{"key":"value"}})")
           .call({"--file", "f.json", "--removeAndClear", "obj.key"})

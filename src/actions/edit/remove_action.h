@@ -18,8 +18,8 @@ class RemoveAction : public KeyPath {
   /// Removes the member from `document`, and with `EmptyParents::clear` also every object on the way that is then
   /// empty. The last member of an object takes the place of the removed one. Prints nothing.
   ///
-  /// Returns whether all went well: a path without steps and a path of several steps whose last is missing count as
-  /// well, a path of a single missing step does not. Ends the process where a single step meets a root that is no
+  /// Returns whether it succeeded: a path without steps and a path of several steps whose last is missing count as
+  /// success, a path of a single missing step does not. Ends the process where a single step meets a root that is no
   /// object, and where objects are to be cleared along a path that skipped a step.
   virtual bool execute(Document& document) const;
 

@@ -9,7 +9,7 @@ namespace kovalt {
 /// Whether `text` begins with "[" and ends with "]".
 bool isArrayText(const std::string& text);
 
-/// Takes the first and the last byte off.
+/// Takes the first and the last byte off a text for which `isArrayText` holds.
 void stripBrackets(std::string& text);
 
 /// Overwrites every comma outside double quotes by a space. Every double quote, an escaped one too, opens or closes a

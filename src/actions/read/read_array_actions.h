@@ -1,7 +1,8 @@
 #pragma once
 
 // The flat forms of an array, for shell scripts: no outer brackets, a comma or a space between the elements, with or
-// without the quotes around strings. A value whose text is not in brackets reads as with ReadAction.
+// without the quotes around strings. A value whose text is not in brackets reads as with ReadAction. All of them return
+// and report what ReadAction::execute does.
 
 #include <string>
 

@@ -1,0 +1,61 @@
+// Control characters inside strings that are long enough for vectorised scanning, which some builds of the JSON library
+// offer and which lets some of these characters through.
+
+#include "tool_case.h"
+
+namespace kovalt::test {
+namespace {
+
+const std::string kFiller(40, 'x');
+
+/// A control character as the last one below the blank are: written as an escape, refused as it is.
+struct Control {
+  char byte;
+  std::string escape;
+};
+
+const std::vector<Control> kControls = {{'\x01', "\\u0001"}, {'\x19', "\\u0019"}, {'\x1A', "\\u001A"},
+                                        {'\x1B', "\\u001B"}, {'\x1C', "\\u001C"}, {'\x1D', "\\u001D"},
+                                        {'\x1E', "\\u001E"}, {'\x1F', "\\u001F"}};
+
+std::string rowEnd(const Control& control) { return control.escape.substr(1); }
+
+std::vector<Case> writtenRows() {
+  std::vector<Case> rows;
+  for (const Control& control : kControls) {
+    const std::string raw = kFiller + control.byte + kFiller;
+    const std::string escaped = kFiller + control.escape + kFiller;
+    rows.push_back(Case("saved_as_an_escape_" + rowEnd(control))
+                       .call({"--file", "f.json", "--addString", "k", raw})
+                       .leaves("f.json", "{\n  \"k\": \"" + escaped + "\"\n}"));
+    rows.push_back(Case("displayed_as_an_escape_" + rowEnd(control))
+                       .call({"--addString", "k", raw})
+                       .prints("{\n    \"k\": \"" + escaped + "\"\n}\n"));
+    rows.push_back(Case("read_as_an_escape_" + rowEnd(control))
+                       .call({"--addString", "k", raw, "--read", "k"})
+                       .prints(escaped + "\n"));
+  }
+  return rows;
+}
+
+std::vector<Case> loadedRows() {
+  std::vector<Case> rows;
+  for (const Control& control : kControls) {
+    rows.push_back(Case("refused_as_it_is_" + rowEnd(control))
+                       .given("f.json", "{\"k\":\"" + kFiller + control.byte + kFiller + "\"}")
+                       .call({"--file", "f.json", "--read", ""})
+                       .prints("{}\n")
+                       .reports("Could not parse json file f.json\n"));
+    rows.push_back(Case("taken_as_an_escape_" + rowEnd(control))
+                       .given("f.json", "{\"k\":\"" + kFiller + control.escape + kFiller + "\"}")
+                       .call({"--file", "f.json", "--read", "k"})
+                       .prints(kFiller + control.escape + kFiller + "\n"));
+  }
+  return rows;
+}
+
+INSTANTIATE_TEST_SUITE_P(ControlCharactersWritten, ToolCall, testing::ValuesIn(writtenRows()), rowName);
+INSTANTIATE_TEST_SUITE_P(ControlCharactersLoaded, ToolCall, testing::ValuesIn(loadedRows()), rowName);
+
+}  // namespace
+}  // namespace kovalt::test
