@@ -59,7 +59,8 @@ class Bench:
 
     def instructions(self, command):
         run = subprocess.run(
-            ["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null"] + shlex.split(command),
+            # The start of a process looks through its environment: an empty one makes the count repeatable.
+            ["env", "-i", f"PATH={os.environ['PATH']}", "valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null"] + shlex.split(command),
             cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, check=True)
         return int(re.search(rb"Collected : (\d+)", run.stderr).group(1))
 
@@ -135,25 +136,25 @@ def large_files(b):
         rounds = ROUNDS if megabytes < 200 else 3
         read, bare_load = f"{tool} --file {name} --read meta.version", f"{bare} load {name}"
         b.same(read, f"jq .meta.version {name}")
-        (_, ours), (_, theirs) = b.times(read, bare_load, rounds=rounds)
-        b.row(f"load, {work}", "user and system time, times bare parse", ours / theirs, 1.0)
+        (ours, _), (theirs, _) = b.times(read, bare_load, rounds=rounds)
+        b.row(f"load, {work}", "time, times bare parse", ours / theirs, 1.0)
 
-        b.shell(f"cp {name} edited.json")
-        edit, bare_save = f"{tool} --file edited.json --addNumber meta.version 1", f"{bare} save {name} saved.json"
-        b.shell(f"{edit} && {bare_save} && cmp edited.json saved.json && cp {name} edited.json")
-        (_, ours), (_, theirs) = b.times(edit, bare_save, rounds=rounds)
-        b.row(f"load, edit, save, {work}", "user and system time, times bare parse and write", ours / theirs, 1.0)
+        # Both rewrite their own file in place; after the first time it is the indented text that is loaded.
+        b.shell(f"cp {name} edited.json; cp {name} saved.json")
+        edit, bare_save = f"{tool} --file edited.json --addNumber meta.version 1", f"{bare} save saved.json saved.json"
+        b.shell(f"{edit} && {bare_save} && cmp edited.json saved.json")
+        (ours, _), (theirs, _) = b.times(edit, bare_save, rounds=rounds)
+        b.row(f"load, edit, save, {work}", "time, times bare parse and write", ours / theirs, 1.0)
 
         display, plain = f"{tool} --file {name}", f"{bare} display {name}"
         b.shell(f"{display} > shown.json && {plain} > plain.json && cmp shown.json plain.json")
-        (_, ours), (_, theirs) = b.times(display, plain, rounds=rounds)
-        b.row(f"display, {work}", "user and system time, times the plain way", ours / theirs, 0.6)
+        (ours, _), (theirs, _) = b.times(display, plain, rounds=rounds)
+        b.row(f"display, {work}", "time, times the plain way", ours / theirs, 0.6)
         b.row(f"display, {work}", "peak memory, times the file", b.peak_memory(display) / b.size(name), 2.6)
         b.row(f"display the plain way, {work}", "peak memory, times the file", b.peak_memory(plain) / b.size(name))
 
         if megabytes == 5:
             for kind, ours_, theirs_ in (("load", read, bare_load), ("load, edit, save", edit, bare_save)):
-                b.shell(f"cp {name} edited.json")
                 b.row(f"{kind}, {work}", "instructions, times bare", b.instructions(ours_) / b.instructions(theirs_), 1.0)
             b.row(f"display, {work}", "instructions, times the plain way",
                   b.instructions(display) / b.instructions(plain))
