@@ -3,8 +3,11 @@
 
 # What a build needs.
 build_packages=(cmake ninja-build g++ libc6-dev rapidjson-dev)
+# What the packages need besides.
+package_packages=(dpkg-dev scdoc)
 # What the tests need besides.
-test_packages=(bash-completion clang-format fish jq libgtest-dev man-db mandoc python3 scdoc strace tmux valgrind zsh)
+test_packages=(bash-completion clang-format dpkg-dev fakeroot fish jq libgtest-dev man-db mandoc python3 scdoc strace tmux
+  valgrind zsh)
 
 # Brings one target of a preset up to date, or everything without a target. Silent unless it fails.
 build_preset() {

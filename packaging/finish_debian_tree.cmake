@@ -1,0 +1,29 @@
+# Run by CPack between the installation into a folder of its own and the packing of that folder: adds what Debian asks
+# for, and takes away what differs from one run to the next.
+set(tree ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr)
+set(share ${tree}/share)
+set(documents ${share}/doc/kovalt)
+
+file(COPY ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION ${documents})
+configure_file(${CMAKE_CURRENT_LIST_DIR}/lintian-overrides ${share}/lintian/overrides/kovalt COPYONLY)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/../CHANGELOG.md ${documents}/changelog COPYONLY)
+# Both times are SOURCE_DATE_EPOCH where that is set.
+string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+string(TIMESTAMP seconds "%s" UTC)
+file(
+  WRITE ${documents}/changelog.Debian
+  "kovalt (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
+
+  * Package version ${CPACK_PACKAGE_VERSION}.
+
+ -- ${CPACK_PACKAGE_CONTACT}  ${date}
+")
+
+execute_process(COMMAND strip --remove-section=.comment ${tree}/bin/Kovalt ${tree}/libexec/kovalt/complete
+                COMMAND_ERROR_IS_FATAL ANY)
+file(GLOB_RECURSE texts ${share}/man/* ${documents}/changelog*)
+execute_process(COMMAND gzip -9n ${texts} COMMAND_ERROR_IS_FATAL ANY)
+# The permissions must not depend on the umask.
+execute_process(COMMAND chmod -R u=rwX,go=rX ${tree} COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND find ${tree} -exec touch --no-dereference --date=@${seconds} {} +
+                COMMAND_ERROR_IS_FATAL ANY)
