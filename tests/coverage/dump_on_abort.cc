@@ -2,7 +2,7 @@
 
 #include <csignal>
 
-extern "C" void __gcov_dump();  // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+extern "C" void __gcov_dump();  // NOLINT(bugprone-reserved-identifier,cert-dcl*,readability-identifier-naming)
 
 namespace {
 

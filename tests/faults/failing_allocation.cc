@@ -3,8 +3,10 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 extern "C" {
 // Names that the linker gives.
@@ -20,24 +22,24 @@ void* __wrap_realloc(void* memory, std::size_t size);
 namespace {
 
 /// The number in an environment variable, or 0.
-long numberIn(const char* variable) {
+std::int64_t numberIn(const char* variable) {
   const char* text = std::getenv(variable);
-  return text == nullptr ? 0 : std::strtol(text, nullptr, 10);
+  return text == nullptr ? 0 : std::strtoll(text, nullptr, 10);
 }
 
 /// How many calls there were since the program's own start: the C library ends in its ways when it cannot even start.
-long calls = 0;
+std::int64_t calls = 0;
 bool started = false;
 
 /// Whether the call that now begins is one of those that fail: KOVALT_TEST_FAIL_FROM is the number of the first,
 /// counted from 1, KOVALT_TEST_FAIL_COUNT how many follow each other, without end if it is 0.
 bool fails() {
-  static const long first = numberIn("KOVALT_TEST_FAIL_FROM");
-  static const long count = numberIn("KOVALT_TEST_FAIL_COUNT");
+  static const std::int64_t first = numberIn("KOVALT_TEST_FAIL_FROM");
+  static const std::int64_t count = numberIn("KOVALT_TEST_FAIL_COUNT");
   if (!started) {
     return false;
   }
-  const long call = ++calls;
+  const std::int64_t call = ++calls;
   const bool failing = first > 0 && call >= first && (count == 0 || call < first + count);
   if (failing) {
     errno = ENOMEM;
@@ -47,15 +49,15 @@ bool fails() {
 
 /// Begins the count, and leaves it in the file that KOVALT_TEST_COUNT_FILE names, when the program ends by itself.
 struct Counter {
-  Counter() { started = true; }
+  Counter() noexcept { started = true; }
   Counter(const Counter&) = delete;
   Counter& operator=(const Counter&) = delete;
   ~Counter() {
-    const long counted = calls;
+    const std::int64_t counted = calls;
     const char* path = std::getenv("KOVALT_TEST_COUNT_FILE");
     std::FILE* file = path == nullptr ? nullptr : std::fopen(path, "w");
     if (file != nullptr) {
-      std::fprintf(file, "%ld", counted);
+      std::fputs(std::to_string(counted).c_str(), file);
       std::fclose(file);
     }
   }

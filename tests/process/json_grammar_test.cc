@@ -90,10 +90,11 @@ TEST(JsonGrammar, TakesDeepNesting) {
   const std::string arrays = std::string(1000, '[') + std::string(1000, ']');
   acceptance("arrays", arrays, arrays).check();
   refusal("one_bracket_short", arrays.substr(1)).check();
-  std::string objects = "1";
+  std::string objects;
   for (int depth = 0; depth < 1000; ++depth) {
-    objects = "{\"a\":" + objects + "}";
+    objects += R"({"a":)";
   }
+  objects += "1" + std::string(1000, '}');
   acceptance("objects", objects, objects).check();
   refusal("one_brace_short", objects.substr(0, objects.size() - 1)).check();
 }
