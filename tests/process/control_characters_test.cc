@@ -1,30 +1,41 @@
 // Control characters inside strings that are long enough for vectorised scanning, which some builds of the JSON library
 // offer and which lets some of these characters through.
 
+#include <array>
+
 #include "tool_case.h"
 
 namespace kovalt::test {
 namespace {
 
-const std::string kFiller(40, 'x');
-
 /// A control character as the last one below the blank are: written as an escape, refused as it is.
 struct Control {
   char byte;
-  std::string escape;
+  const char* escape;
 };
 
-const std::vector<Control> kControls = {{'\x01', "\\u0001"}, {'\x19', "\\u0019"}, {'\x1A', "\\u001A"},
-                                        {'\x1B', "\\u001B"}, {'\x1C', "\\u001C"}, {'\x1D', "\\u001D"},
-                                        {'\x1E', "\\u001E"}, {'\x1F', "\\u001F"}};
+constexpr std::array<Control, 8> kControls = {{{'\x01', "\\u0001"},
+                                               {'\x19', "\\u0019"},
+                                               {'\x1A', "\\u001A"},
+                                               {'\x1B', "\\u001B"},
+                                               {'\x1C', "\\u001C"},
+                                               {'\x1D', "\\u001D"},
+                                               {'\x1E', "\\u001E"},
+                                               {'\x1F', "\\u001F"}}};
 
-std::string rowEnd(const Control& control) { return control.escape.substr(1); }
+std::string rowEnd(const Control& control) { return std::string(control.escape).substr(1); }
+
+/// A long text around `middle`.
+std::string around(const std::string& middle) { return std::string(40, 'x') + middle + std::string(40, 'x'); }
+
+/// The compact text of an object that holds `text`.
+std::string objectOf(const std::string& text) { return R"({"k":")" + text + R"("})"; }
 
 std::vector<Case> writtenRows() {
   std::vector<Case> rows;
   for (const Control& control : kControls) {
-    const std::string raw = kFiller + control.byte + kFiller;
-    const std::string escaped = kFiller + control.escape + kFiller;
+    const std::string raw = around(std::string(1, control.byte));
+    const std::string escaped = around(control.escape);
     rows.push_back(Case("saved_as_an_escape_" + rowEnd(control))
                        .call({"--file", "f.json", "--addString", "k", raw})
                        .leaves("f.json", "{\n  \"k\": \"" + escaped + "\"\n}"));
@@ -42,14 +53,14 @@ std::vector<Case> loadedRows() {
   std::vector<Case> rows;
   for (const Control& control : kControls) {
     rows.push_back(Case("refused_as_it_is_" + rowEnd(control))
-                       .given("f.json", "{\"k\":\"" + kFiller + control.byte + kFiller + "\"}")
+                       .given("f.json", objectOf(around(std::string(1, control.byte))))
                        .call({"--file", "f.json", "--read", ""})
                        .prints("{}\n")
                        .reports("Could not parse json file f.json\n"));
     rows.push_back(Case("taken_as_an_escape_" + rowEnd(control))
-                       .given("f.json", "{\"k\":\"" + kFiller + control.escape + kFiller + "\"}")
+                       .given("f.json", objectOf(around(control.escape)))
                        .call({"--file", "f.json", "--read", "k"})
-                       .prints(kFiller + control.escape + kFiller + "\n"));
+                       .prints(around(control.escape) + "\n"));
   }
   return rows;
 }

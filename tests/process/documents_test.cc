@@ -82,8 +82,8 @@ std::vector<Case> loadingRows() {
       parsable("compact_empty_values", R"([ { }, [ ], "x" ])", R"([{},[],"x"])"),
       parsable("equal_names_are_kept", R"({"a":1,"a":2})", R"({"a":1,"a":2})"),
       parsable("scalar_root", " false ", "false"),
-      parsable("file_of_exactly_one_buffer", "{\"a\":\"" + std::string(8184, 'x') + "\"}",
-               "{\"a\":\"" + std::string(8184, 'x') + "\"}"),
+      parsable("file_of_exactly_one_buffer", R"({"a":")" + std::string(8184, 'x') + "\"}",
+               R"({"a":")" + std::string(8184, 'x') + "\"}"),
       parsable("value_behind_a_buffer_of_whitespace", std::string(8191, ' ') + "[12345]", "[12345]"),
       parsable("string_of_several_buffers", "[\"" + std::string(20000, 'x') + "\"]",
                "[\"" + std::string(20000, 'x') + "\"]"),
@@ -213,7 +213,7 @@ std::vector<Case> savingRows() {
           .call({"--file", "f.json", "--addString", "", std::string(70000, 'x')})
           .leaves("f.json", "\"" + std::string(70000, 'x') + "\""),
       Case("save_of_more_than_a_buffer")
-          .given("f.json", "{\"a\":\"" + std::string(140000, 'x') + "\"}")
+          .given("f.json", R"({"a":")" + std::string(140000, 'x') + "\"}")
           .call({"--file", "f.json", "--addString", "b", "v"})
           .leaves("f.json", "{\n  \"a\": \"" + std::string(140000, 'x') + "\",\n  \"b\": \"v\"\n}"),
       Case("save_truncates_a_longer_file")

@@ -3,7 +3,7 @@
 namespace kovalt::test {
 namespace {
 
-const std::string added = R"({
+constexpr const char* kAdded = R"({
   "a": 1,
   "k": "v"
 })";
@@ -16,7 +16,7 @@ std::string shownText(const std::string& text) { return "{\n    \"k\": \"" + tex
 
 /// A file with `content` that loads as {"a": 1}, and that an edit rewrites.
 Case loaded(const std::string& name, const std::string& content) {
-  return Case(name).given("conf.json", content).call({"-f", "conf.json", "-as", "k", "v"}).leaves("conf.json", added);
+  return Case(name).given("conf.json", content).call({"-f", "conf.json", "-as", "k", "v"}).leaves("conf.json", kAdded);
 }
 
 /// A file with `content` that does not load.
@@ -46,7 +46,7 @@ std::vector<Case> files() {
           .given("conf.json", "\xef\xbb\xbf{\"a\":1}")
           .call({"-f", "conf.json", "-an", "a", "1", "-as", "k", "v"})
           .reports("Could not parse json file conf.json\n")
-          .leaves("conf.json", added),
+          .leaves("conf.json", kAdded),
       Case("byte_order_mark_in_a_file_to_merge")
           .given("more.json", "\xef\xbb\xbf{\"a\":1}")
           .call({"-af", "more.json"})

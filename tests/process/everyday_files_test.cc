@@ -3,22 +3,22 @@
 namespace kovalt::test {
 namespace {
 
-const std::string before = R"({"a":1})";
-const std::string after = R"({
+constexpr const char* kBefore = R"({"a":1})";
+constexpr const char* kAfter = R"({
   "a": 1,
   "k": "v"
 })";
-const std::string created = R"({
+constexpr const char* kCreated = R"({
   "k": "v"
 })";
-const std::string shown = R"({
+constexpr const char* kShown = R"({
     "a": 1
 }
 )";
 
 /// An edit of the file `path`, which is there already.
 Case edited(const std::string& name, const std::string& path) {
-  return Case(name).given(path, before).call({"--file", path, "-as", "k", "v"}).leaves(path, after);
+  return Case(name).given(path, kBefore).call({"--file", path, "-as", "k", "v"}).leaves(path, kAfter);
 }
 
 /// An edit of the file `path`, which can be neither read nor written.
@@ -82,49 +82,49 @@ std::vector<Case> names() {
 std::vector<Case> paths() {
   return {
       Case("relative_path")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-f", "./conf.json", "-as", "k", "v"})
-          .leaves("conf.json", after),
+          .leaves("conf.json", kAfter),
       Case("path_with_a_sub_folder")
           .givenDirectory("sub")
-          .given("sub/conf.json", before)
+          .given("sub/conf.json", kBefore)
           .call({"-f", "sub/conf.json", "-as", "k", "v"})
-          .leaves("sub/conf.json", after),
+          .leaves("sub/conf.json", kAfter),
       Case("path_with_two_sub_folders")
           .givenDirectory("sub")
           .givenDirectory("sub/deeper one")
-          .given("sub/deeper one/conf.json", before)
+          .given("sub/deeper one/conf.json", kBefore)
           .call({"-f", "sub/deeper one/conf.json", "-as", "k", "v"})
-          .leaves("sub/deeper one/conf.json", after),
+          .leaves("sub/deeper one/conf.json", kAfter),
       Case("path_up_and_down")
           .givenDirectory("sub")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-f", "sub/../conf.json", "-as", "k", "v"})
-          .leaves("conf.json", after),
+          .leaves("conf.json", kAfter),
       Case("path_with_two_slashes")
           .givenDirectory("sub")
-          .given("sub/conf.json", before)
+          .given("sub/conf.json", kBefore)
           .call({"-f", "sub//conf.json", "-as", "k", "v"})
-          .leaves("sub/conf.json", after),
+          .leaves("sub/conf.json", kAfter),
       Case("new_file_in_a_sub_folder")
           .givenDirectory("sub")
           .call({"-f", "sub/conf.json", "-as", "k", "v"})
-          .leaves("sub/conf.json", created),
+          .leaves("sub/conf.json", kCreated),
       Case("file_to_merge_in_a_sub_folder")
           .givenDirectory("sub")
-          .given("sub/more.json", before)
+          .given("sub/more.json", kBefore)
           .call({"-af", "sub/more.json"})
-          .prints(shown),
+          .prints(kShown),
       unwritable("missing_folder", "no/such/conf.json"),
       unwritable("missing_folder_from_the_root", "/kovalt-no-such-folder/conf.json"),
       Case("missing_folder_is_shown_as_empty").call({"-f", "/kovalt-no-such-folder/conf.json"}).prints("{}\n"),
       Case("file_in_place_of_a_folder")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-f", "conf.json/conf.json", "-as", "k", "v"})
           .reports("Could not write document: conf.json/conf.json\n")
           .exits(1),
       Case("file_with_a_trailing_slash")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-f", "conf.json/", "-as", "k", "v"})
           .reports("Could not write document: conf.json/\n")
           .exits(1),
@@ -167,42 +167,42 @@ std::vector<Case> paths() {
 
       // A symbolic link stays one; its target is rewritten.
       Case("link_to_a_file")
-          .given("real.json", before)
+          .given("real.json", kBefore)
           .givenSymbolicLink("link.json", "real.json")
           .call({"-f", "link.json", "-as", "k", "v"})
-          .leaves("real.json", after),
+          .leaves("real.json", kAfter),
       Case("link_to_a_file_in_a_folder")
           .givenDirectory("sub")
-          .given("sub/real.json", before)
+          .given("sub/real.json", kBefore)
           .givenSymbolicLink("link.json", "sub/real.json")
           .call({"-fd", "link.json"})
-          .prints(shown),
+          .prints(kShown),
       Case("link_to_a_link")
-          .given("real.json", before)
+          .given("real.json", kBefore)
           .givenSymbolicLink("second.json", "real.json")
           .givenSymbolicLink("first.json", "second.json")
           .call({"-f", "first.json", "-as", "k", "v"})
-          .leaves("real.json", after),
+          .leaves("real.json", kAfter),
       Case("link_to_a_folder")
           .givenDirectory("sub")
-          .given("sub/conf.json", before)
+          .given("sub/conf.json", kBefore)
           .givenSymbolicLink("link", "sub")
           .call({"-f", "link/conf.json", "-as", "k", "v"})
-          .leaves("sub/conf.json", after),
+          .leaves("sub/conf.json", kAfter),
       Case("link_to_a_missing_file_makes_its_target")
           .givenSymbolicLink("link.json", "real.json")
           .call({"-f", "link.json", "-as", "k", "v"})
-          .leaves("real.json", created),
+          .leaves("real.json", kCreated),
       Case("link_to_itself")
           .givenSymbolicLink("link.json", "link.json")
           .call({"-f", "link.json", "-as", "k", "v"})
           .reports("Could not write document: link.json\n")
           .exits(1),
       Case("link_as_the_file_to_merge")
-          .given("real.json", before)
+          .given("real.json", kBefore)
           .givenSymbolicLink("link.json", "real.json")
           .call({"-af", "link.json"})
-          .prints(shown),
+          .prints(kShown),
       Case("broken_link_as_the_file_to_merge")
           .givenSymbolicLink("link.json", "real.json")
           .call({"-af", "link.json"})
@@ -221,7 +221,7 @@ std::vector<Case> paths() {
   ]
 })"),
       Case("file_merged_into_itself_at_a_key")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-f", "conf.json", "-afat", "copy", "conf.json"})
           .leaves("conf.json", R"({
   "a": 1,
@@ -256,71 +256,71 @@ std::vector<Case> paths() {
 std::vector<Case> modes() {
   return {
       Case("mode_of_a_private_file_is_kept")
-          .given("conf.json", before, 0600)
+          .given("conf.json", kBefore, 0600)
           .call({"-f", "conf.json", "-as", "k", "v"})
-          .leaves("conf.json", after),
+          .leaves("conf.json", kAfter),
       Case("mode_of_an_executable_file_is_kept")
-          .given("conf.json", before, 0755)
+          .given("conf.json", kBefore, 0755)
           .call({"-f", "conf.json", "-as", "k", "v"})
-          .leaves("conf.json", after),
+          .leaves("conf.json", kAfter),
       Case("read_only_file_is_read")
           .withoutPrivileges()
-          .given("conf.json", before, 0444)
+          .given("conf.json", kBefore, 0444)
           .call({"-f", "conf.json", "-r", "a"})
           .prints("1\n"),
       Case("read_only_file_is_not_saved")
           .withoutPrivileges()
-          .given("conf.json", before, 0444)
+          .given("conf.json", kBefore, 0444)
           .call({"-f", "conf.json", "-as", "k", "v"})
           .reports("Could not write document: conf.json\n")
           .exits(1),
       Case("read_only_file_is_displayed_before_the_save_fails")
           .withoutPrivileges()
           .withMergedStreams()
-          .given("conf.json", before, 0444)
+          .given("conf.json", kBefore, 0444)
           .call({"--fileDisplay", "conf.json", "-as", "k", "v"})
           .prints("{\n    \"a\": 1,\n    \"k\": \"v\"\n}\nCould not write document: conf.json\n")
           .exits(1),
       Case("read_only_file_without_a_change_is_a_success")
           .withoutPrivileges()
-          .given("conf.json", before, 0444)
+          .given("conf.json", kBefore, 0444)
           .call({"-fd", "conf.json", "-rm", "missing"})
-          .prints(shown),
+          .prints(kShown),
       Case("reads_follow_the_save_of_a_read_only_file")
           .withoutPrivileges()
-          .given("conf.json", before, 0444)
+          .given("conf.json", kBefore, 0444)
           .call({"-f", "conf.json", "-as", "k", "v", "-r", "k"})
           .prints("v\n")
           .reports("Could not write document: conf.json\n")
           .exits(1),
       Case("unreadable_file_is_passed_over")
           .withoutPrivileges()
-          .given("conf.json", before, 0000)
+          .given("conf.json", kBefore, 0000)
           .call({"-f", "conf.json"})
           .prints("{}\n"),
       Case("unreadable_file_is_not_saved")
           .withoutPrivileges()
-          .given("conf.json", before, 0000)
+          .given("conf.json", kBefore, 0000)
           .call({"-f", "conf.json", "-as", "k", "v"})
           .reports("Could not write document: conf.json\n")
           .exits(1),
       Case("unreadable_file_that_can_be_written_is_overwritten")
           .withoutPrivileges()
-          .given("conf.json", before, 0222)
+          .given("conf.json", kBefore, 0222)
           .call({"-f", "conf.json", "-as", "k", "v"})
-          .leaves("conf.json", created),
+          .leaves("conf.json", kCreated),
       Case("unreadable_file_to_merge")
           .withoutPrivileges()
-          .given("more.json", before, 0000)
+          .given("more.json", kBefore, 0000)
           .call({"-af", "more.json"})
           .prints("{}\n")
           .reports("Could not open document: more.json\n"),
       Case("file_in_a_read_only_folder_is_saved_in_place")
           .withoutPrivileges()
           .givenDirectory("sub", 0555)
-          .given("sub/conf.json", before, 0666)
+          .given("sub/conf.json", kBefore, 0666)
           .call({"-f", "sub/conf.json", "-as", "k", "v"})
-          .leaves("sub/conf.json", after),
+          .leaves("sub/conf.json", kAfter),
       Case("new_file_in_a_read_only_folder")
           .withoutPrivileges()
           .givenDirectory("sub", 0555)
@@ -329,7 +329,7 @@ std::vector<Case> modes() {
           .exits(1),
       Case("link_to_a_read_only_file")
           .withoutPrivileges()
-          .given("real.json", before, 0444)
+          .given("real.json", kBefore, 0444)
           .givenSymbolicLink("link.json", "real.json")
           .call({"-f", "link.json", "-as", "k", "v"})
           .reports("Could not write document: link.json\n")

@@ -60,6 +60,7 @@ std::vector<Case> formsAlone() {
       "-fd",
   };
   std::vector<Case> rows;
+  rows.reserve(forms.size());
   for (const std::string& form : forms) {
     rows.push_back(lacking(withoutDashes(form), {form}, form));
   }
@@ -83,6 +84,7 @@ std::vector<Case> formsWithOneArgument() {
       "-roacs",
   };
   std::vector<Case> rows;
+  rows.reserve(forms.size());
   for (const std::string& form : forms) {
     rows.push_back(lacking(withoutDashes(form), {form, "k"}, form));
   }

@@ -3,8 +3,8 @@
 namespace kovalt::test {
 namespace {
 
-const std::string before = R"({"a":1})";
-const std::string after = R"({
+constexpr const char* kBefore = R"({"a":1})";
+constexpr const char* kAfter = R"({
   "a": 1,
   "k": "v"
 })";
@@ -13,35 +13,35 @@ const std::string after = R"({
 std::vector<Case> calls() {
   return {
       Case("display").call({"-as", "k", "v"}),
-      Case("display_of_a_file").given("conf.json", before).call({"-f", "conf.json"}),
+      Case("display_of_a_file").given("conf.json", kBefore).call({"-f", "conf.json"}),
       Case("display_and_save")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-fd", "conf.json", "-as", "k", "v"})
-          .leaves("conf.json", after),
+          .leaves("conf.json", kAfter),
       Case("display_and_save_and_read")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-fd", "conf.json", "-as", "k", "v", "-r", "k"})
-          .leaves("conf.json", after),
+          .leaves("conf.json", kAfter),
       Case("display_and_save_of_a_new_file")
           .call({"-fd", "conf.json", "-as", "k", "v"})
           .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
       Case("display_and_save_and_merge")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .given("more.json", R"({"k":"v"})")
           .call({"-fd", "conf.json", "-af", "more.json"})
-          .leaves("conf.json", after),
+          .leaves("conf.json", kAfter),
       Case("save_alone")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-f", "conf.json", "-as", "k", "v"})
-          .leaves("conf.json", after),
+          .leaves("conf.json", kAfter),
       Case("save_and_read")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-f", "conf.json", "-as", "k", "v", "-r", "k"})
-          .leaves("conf.json", after),
-      Case("read").given("conf.json", before).call({"-f", "conf.json", "-r", "a"}),
-      Case("two_reads").given("conf.json", before).call({"-f", "conf.json", "-r", "a", "-r", "a"}),
+          .leaves("conf.json", kAfter),
+      Case("read").given("conf.json", kBefore).call({"-f", "conf.json", "-r", "a"}),
+      Case("two_reads").given("conf.json", kBefore).call({"-f", "conf.json", "-r", "a", "-r", "a"}),
       Case("failing_read")
-          .given("conf.json", before)
+          .given("conf.json", kBefore)
           .call({"-f", "conf.json", "-r", "k"})
           .reports("--read error : Path \"k\" does not exist\n"),
       Case("long_display").call({"-as", "k", std::string(100000, 'x')}),
@@ -56,7 +56,7 @@ std::vector<Case> calls() {
           .call({"-fd", "no/such/conf.json", "-as", "k", "v"})
           .reports("Could not write document: no/such/conf.json\n")
           .exits(1),
-      Case("parse_error").given("conf.json", before).call({"-f", "conf.json", "-as", "k", "v", "oops"}).exits(1),
+      Case("parse_error").given("conf.json", kBefore).call({"-f", "conf.json", "-as", "k", "v", "oops"}).exits(1),
   };
 }
 

@@ -3,8 +3,8 @@
 namespace kovalt::test {
 namespace {
 
-const std::string arrays = R"({"l": ["a", "b c", 1], "m": ["x", "y"]})";
-const std::string links = R"({"links": [{"id": 0, "port": 2099}, {"id": 1, "port": 3002}]})";
+constexpr const char* kArrays = R"({"l": ["a", "b c", 1], "m": ["x", "y"]})";
+constexpr const char* kLinks = R"({"links": [{"id": 0, "port": 2099}, {"id": 1, "port": 3002}]})";
 
 std::vector<Case> optionForms() {
   return {
@@ -99,7 +99,7 @@ std::vector<Case> optionForms() {
 }
 )"),
       Case("read_array_space")
-          .given("arrays.json", arrays)
+          .given("arrays.json", kArrays)
           .call({"-f", "arrays.json", "--readArraySpace", "l", "-ras", "m"})
           .prints(R"({
     "l": "\"a\" \"b c\" 1",
@@ -107,7 +107,7 @@ std::vector<Case> optionForms() {
 }
 )"),
       Case("read_array_space_no_quote")
-          .given("arrays.json", arrays)
+          .given("arrays.json", kArrays)
           .call({"-f", "arrays.json", "--readArraySpaceNoQuote", "l", "-rasq", "m"})
           .prints(R"({
     "l": "a b c 1",
@@ -115,7 +115,7 @@ std::vector<Case> optionForms() {
 }
 )"),
       Case("read_array_is_read_array_space_no_quote")
-          .given("arrays.json", arrays)
+          .given("arrays.json", kArrays)
           .call({"-f", "arrays.json", "--readArray", "l", "-ra", "m"})
           .prints(R"({
     "l": "a b c 1",
@@ -123,7 +123,7 @@ std::vector<Case> optionForms() {
 }
 )"),
       Case("read_array_comma")
-          .given("arrays.json", arrays)
+          .given("arrays.json", kArrays)
           .call({"-f", "arrays.json", "--readArrayComma", "l", "-rac", "m"})
           .prints(R"({
     "l": "\"a\",\"b c\",1",
@@ -131,7 +131,7 @@ std::vector<Case> optionForms() {
 }
 )"),
       Case("read_array_comma_no_quote")
-          .given("arrays.json", arrays)
+          .given("arrays.json", kArrays)
           .call({"-f", "arrays.json", "--readArrayCommaNoQuote", "l", "-racq", "m"})
           .prints(R"({
     "l": "a,b c,1",
@@ -139,7 +139,7 @@ std::vector<Case> optionForms() {
 }
 )"),
       Case("read_object_array_concat")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "--readObjectArrayConcat", "links", "id", "port", "-roac", "links", "port"})
           .prints(R"({
     "links": "0 2099 1 3002",
@@ -147,7 +147,7 @@ std::vector<Case> optionForms() {
 }
 )"),
       Case("read_object_array_concat_sep")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "--readObjectArrayConcatSep", "links", "id", "port", "/", "-roacs", "links",
                  "port", "id", ":"})
           .prints(R"({
@@ -213,11 +213,11 @@ std::vector<Case> fixedArguments() {
 )"),
       Case("option_as_a_file").call({"--file", "--file", "-as", "k", "v"}).leaves("--file", "{\n  \"k\": \"v\"\n}"),
       Case("option_as_the_key_path_of_a_concatenation")
-          .given("data.json", links)
+          .given("data.json", kLinks)
           .call({"--readObjectArrayConcat", "-f", "data.json", "links", "id"})
           .reports("--read error : Path \"-f\" does not exist\n"),
       Case("option_as_the_key_path_of_a_separated_concatenation")
-          .given("data.json", links)
+          .given("data.json", kLinks)
           .call({"-roacs", "-fd", "data.json", "links", "/"})
           .reports("--read error : Path \"-fd\" does not exist\n"),
 

@@ -4,7 +4,7 @@ namespace kovalt::test {
 namespace {
 
 // The text ends with a line end of its own, and the call writes one more after it.
-const std::string usage = R"(Usage:
+constexpr const char* kUsage = R"(Usage:
 
   Kovalt
 
@@ -66,13 +66,13 @@ Examples:
 
 )";
 
-const std::string graph = R"({"links": [{"id": 0, "hostname": "192.168.1.10", "port": 2099},
+constexpr const char* kGraph = R"({"links": [{"id": 0, "hostname": "192.168.1.10", "port": 2099},
            {"id": 1, "hostname": "192.168.1.11", "port": 3002}]})";
 
 std::vector<Case> rows() {
   return {
-      Case("no_argument_prints_the_usage").call({}).prints(usage),
-      Case("the_usage_leaves_every_file_alone").given("conf.json", "{}").call({}).prints(usage),
+      Case("no_argument_prints_the_usage").call({}).prints(kUsage),
+      Case("the_usage_leaves_every_file_alone").given("conf.json", "{}").call({}).prints(kUsage),
       Case("the_usage_on_a_closed_output_is_a_success").withClosedOutput().call({}),
       Case("the_usage_on_a_full_output_is_a_success").withFullOutput().call({}),
 
@@ -188,7 +188,7 @@ std::vector<Case> rows() {
           .prints("Error: Error: missing argument(s) after --addObject\n")
           .exits(1),
       Case("the_separator_is_the_whole_last_value")
-          .given("graph.json", graph)
+          .given("graph.json", kGraph)
           .call({"--file", "graph.json", "-roacs", "links", "id", "hostname", "port", "/:+"})
           .prints("0/192.168.1.10:2099 1/192.168.1.11:3002\n"),
       Case("the_key_of_example_add_array_boolean_is_the_one_given")
@@ -221,7 +221,7 @@ std::vector<Case> rows() {
           .prints("Error: invalid argument key\n")
           .exits(1),
       Case("example_concat_takes_the_file_option_as_its_key_path")
-          .given("hyperGraph.json", graph)
+          .given("hyperGraph.json", kGraph)
           .call({"--readObjectArrayConcat", "-f", "hyperGraph.json", "links", "id", "hostname", "port"})
           .reports("--read error : Path \"-f\" does not exist\n"),
       Case("example_concat_takes_the_file_name_as_a_field_path")
@@ -229,15 +229,15 @@ std::vector<Case> rows() {
           .call({"--addFile", "graph.json", "--readObjectArrayConcat", "-f", "hyperGraph.json", "links"})
           .prints("h l\n"),
       Case("example_concat_with_the_file_first")
-          .given("hyperGraph.json", graph)
+          .given("hyperGraph.json", kGraph)
           .call({"-f", "hyperGraph.json", "--readObjectArrayConcat", "links", "id", "hostname", "port"})
           .prints("0 192.168.1.10 2099 1 192.168.1.11 3002\n"),
       Case("example_concat_sep_takes_the_file_option_as_its_key_path")
-          .given("hypervisorGraph.json", graph)
+          .given("hypervisorGraph.json", kGraph)
           .call({"-roacs", "-f", "hypervisorGraph.json", "links", "id", "hostname", "port", "/:"})
           .reports("--read error : Path \"-f\" does not exist\n"),
       Case("example_concat_sep_with_the_file_first")
-          .given("hypervisorGraph.json", graph)
+          .given("hypervisorGraph.json", kGraph)
           .call({"-f", "hypervisorGraph.json", "-roacs", "links", "id", "hostname", "port", "/:"})
           .prints("0/192.168.1.10:2099 1/192.168.1.11:3002\n"),
   };

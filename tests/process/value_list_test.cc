@@ -3,7 +3,8 @@
 namespace kovalt::test {
 namespace {
 
-const std::string links = R"({"links": [{"id": 0, "port": 2099, "a,b": "c"}, {"id": 1, "port": 3002, "a,b": "d"}]})";
+constexpr const char* kLinks =
+    R"({"links": [{"id": 0, "port": 2099, "a,b": "c"}, {"id": 1, "port": 3002, "a,b": "d"}]})";
 
 /// The display of the document {"k": [...]} for the given lines of the array.
 std::string shown(const std::string& elements) { return "{\n    \"k\": [\n" + elements + "\n    ]\n}\n"; }
@@ -164,19 +165,19 @@ std::vector<Case> lists() {
 std::vector<Case> fieldLists() {
   return {
       Case("fields_apart")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roac", "links", "id", "port"})
           .prints("0 2099 1 3002\n"),
       Case("fields_in_one_comma_list")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roac", "links", "id,port"})
           .prints("0 2099 1 3002\n"),
       Case("comma_in_one_of_two_fields_stays")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roac", "links", "a,b", "id"})
           .prints("c 0 d 1\n"),
       Case("list_ends_at_an_option")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-roac", "links", "port", "id", "-f", "links.json"})
           .prints("2099 0 3002 1\n"),
       Case("comma_alone_is_the_whole_element")
@@ -184,7 +185,7 @@ std::vector<Case> fieldLists() {
           .call({"-f", "links.json", "-roac", "links", ","})
           .prints("{\"id\":7}\n"),
       Case("no_field_before_an_option")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-roac", "links", "-f", "links.json"})
           .prints("(2)\n"),
       Case("no_field_and_one_element")
@@ -192,49 +193,49 @@ std::vector<Case> fieldLists() {
           .call({"--readObjectArrayConcat", "links", "--file", "links.json"})
           .prints("\n"),
       Case("empty_argument_in_place_of_a_field")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roac", "links", ""})
           .prints("Error: invalid argument \n")
           .exits(1),
       Case("separator_behind_fields")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id", "port", "/"})
           .prints("0/2099 1/3002\n"),
       Case("separator_in_a_comma_list")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id,port,/"})
           .prints("0/2099 1/3002\n"),
       Case("separator_at_the_end_of_a_comma_list")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id,port,/,"})
           .prints("0/2099 1/3002\n"),
       Case("comma_as_a_separator")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id", "port", ","})
           .prints("0,2099 1,3002\n"),
       Case("separators_with_a_comma")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id", "port", "id", ",/"})
           .prints("0,2099/0 1,3002/1\n"),
       Case("blank_as_a_separator")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id", "port", " "})
           .prints("0 2099 1 3002\n"),
       Case("separator_before_an_option")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-roacs", "links", "id", "port", "/", "-f", "links.json"})
           .prints("0/2099 1/3002\n"),
       Case("two_values_are_a_field_and_an_unused_separator")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id", "port"})
           .prints("0 1\n"),
       Case("separator_may_begin_with_no_dash")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id", "port", "-"})
           .prints("Error: invalid argument -\n")
           .exits(1),
       Case("empty_separator_behind_values_is_refused")
-          .given("links.json", links)
+          .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id", "port", ""})
           .prints("Error: invalid argument \n")
           .exits(1),

@@ -146,7 +146,7 @@ std::vector<Case> rows() {
           .call({"-f", "d.json", "-r", "a.x.y"})
           .reports("--read error : Path \"a.x.y\" does not exist\n"),
       Case("the_report_shows_the_path_exactly_as_typed")
-          .call({"-r", ".a..\"b\" \\n."})
+          .call({"-r", R"(.a.."b" \n.)"})
           .reports("--read error : Path \".a..\"b\" \\n.\" does not exist\n"),
       Case("a_step_into_a_string_is_missing")
           .given("d.json", R"({"a":"b"})")

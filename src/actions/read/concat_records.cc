@@ -6,7 +6,7 @@
 namespace kovalt {
 
 void ConcatRecords::add(std::string text) {
-  const auto textAt = [this](std::size_t i) { return std::string_view(records_[i].text); };
+  const auto textAt = [this](std::size_t i) -> std::string_view { return records_[i].text; };
   const std::size_t position = index_.find(text, records_.size(), textAt);
   if (position < records_.size()) {
     ++records_[position].count;
