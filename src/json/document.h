@@ -7,11 +7,12 @@
 #include <cmath>
 
 #include "json/aborting_allocator.h"
+#include "json/chunk_allocator.h"
 
 namespace kovalt {
 
 /// The document of a run. Its memory pool takes chunks of 65,536 bytes and frees them together when it is destroyed.
-class Document : public rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<AbortingAllocator>,
+class Document : public rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<ChunkAllocator>,
                                                    AbortingAllocator> {
  public:
   using GenericDocument::GenericDocument;

@@ -1,4 +1,4 @@
-// The memory of the program, counted and made to fail. The linker sends every call of the three functions here
+// The memory of the program, counted and made to fail. The linker sends every call of the four functions here
 // (--wrap), those inside the C and C++ libraries too.
 
 #include <cerrno>
@@ -14,9 +14,11 @@ extern "C" {
 void* __real_malloc(std::size_t size);
 void* __real_calloc(std::size_t count, std::size_t size);
 void* __real_realloc(void* memory, std::size_t size);
+void* __real_aligned_alloc(std::size_t alignment, std::size_t size);
 void* __wrap_malloc(std::size_t size);
 void* __wrap_calloc(std::size_t count, std::size_t size);
 void* __wrap_realloc(void* memory, std::size_t size);
+void* __wrap_aligned_alloc(std::size_t alignment, std::size_t size);
 }
 
 namespace {
@@ -72,4 +74,8 @@ void* __wrap_malloc(std::size_t size) { return fails() ? nullptr : __real_malloc
 void* __wrap_calloc(std::size_t count, std::size_t size) { return fails() ? nullptr : __real_calloc(count, size); }
 
 void* __wrap_realloc(void* memory, std::size_t size) { return fails() ? nullptr : __real_realloc(memory, size); }
+
+void* __wrap_aligned_alloc(std::size_t alignment, std::size_t size) {
+  return fails() ? nullptr : __real_aligned_alloc(alignment, size);
+}
 // NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
