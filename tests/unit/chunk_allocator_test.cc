@@ -37,6 +37,12 @@ TEST(ChunkAllocator, GivesChunksOfAnySizeThatAreAlignedAndDoNotOverlap) {
   }
 }
 
+TEST(ChunkAllocator, TakesABlockForEachChunkOfASmallDocument) {
+  ChunkAllocator allocator;
+  auto* first = static_cast<char*>(allocator.Malloc(16));
+  EXPECT_NE(allocator.Malloc(16), first + 16);
+}
+
 TEST(ChunkAllocator, KeepsWhatIsGivenBack) {
   ChunkAllocator allocator;
   auto* chunk = static_cast<char*>(allocator.Malloc(kChunk));
