@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <cstdint>
 #include <cstring>
 #include <utility>
@@ -60,11 +59,6 @@ TEST(ChunkAllocator, CutsTheChunksOfALargeDocumentOutOfHugePages) {
   auto* second = static_cast<char*>(allocator.Malloc(kChunk));
   EXPECT_EQ(reinterpret_cast<std::uintptr_t>(first) % kHugePage, 0U);
   EXPECT_EQ(second - first, 65568);
-}
-
-TEST(ChunkAllocatorDeathTest, AbortsWithoutMemory) {
-  ChunkAllocator allocator;
-  EXPECT_EXIT(allocator.Malloc(std::size_t{1} << 60), ::testing::KilledBySignal(SIGABRT), "");
 }
 
 }  // namespace
