@@ -8,11 +8,11 @@
 
 namespace kovalt {
 
-/// The library's own allocator, but for the end of the memory: that ends the process by std::abort. Its operations are
-/// not inline, because the library's loops are faster without them.
+/// The library's own allocator, but for the end of the memory: that ends the process by std::abort. For the stacks of
+/// the library, which only ever reallocate. The operation is not inline, because the library's loops are faster without
+/// it.
 class AbortingAllocator : public rapidjson::CrtAllocator {
  public:
-  void* Malloc(std::size_t size);
   void* Realloc(void* memory, std::size_t size, std::size_t newSize);
 };
 

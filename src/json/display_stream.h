@@ -75,7 +75,7 @@ class DisplayStream {
     return unescaped;
   }();
 
-  std::size_t room() const { return static_cast<std::size_t>(buffer_ + sizeof(buffer_) - end_); }
+  [[nodiscard]] std::size_t room() const { return static_cast<std::size_t>(buffer_ + sizeof(buffer_) - end_); }
 
   char* end_ = buffer_;
   char buffer_[65536];
@@ -87,8 +87,8 @@ namespace rapidjson {
 
 /// How the pretty writer indents.
 template <>
-inline void PutN(kovalt::DisplayStream& stream, char character, std::size_t count) {
-  stream.putRepeated(character, count);
+inline void PutN(kovalt::DisplayStream& stream, char c, std::size_t n) {
+  stream.putRepeated(c, n);
 }
 
 /// The step of the writer that takes what needs no look at each character. Returns whether any of the string is left,

@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t kPiece = 65536;
 
 Value makeString(const std::string& text, Allocator& allocator) {
-  return Value(text.data(), static_cast<rapidjson::SizeType>(text.size()), allocator);
+  return {text.data(), static_cast<rapidjson::SizeType>(text.size()), allocator};
 }
 
 std::string printed(const Value& value) {
@@ -54,13 +54,15 @@ std::string inString(unsigned char character) {
 TEST(PrintValue, WritesEachCharacterOfNamesAndStrings) {
   for (int code = 0; code < 256; ++code) {
     const auto character = static_cast<unsigned char>(code);
-    const std::string text = std::string("ab") + static_cast<char>(character) + "cd";
+    const std::string text = {'a', 'b', static_cast<char>(character), 'c', 'd'};
     Document document;
     document.SetObject();
     document.AddMember(makeString(text, document.GetAllocator()), makeString(text, document.GetAllocator()),
                        document.GetAllocator());
     const std::string quoted = "\"ab" + inString(character) + "cd\"";
-    EXPECT_EQ(printed(document), "{\n    " + quoted + ": " + quoted + "\n}\n") << code;
+    std::string expected = "{\n    ";
+    expected.append(quoted).append(": ").append(quoted).append("\n}\n");
+    EXPECT_EQ(printed(document), expected) << code;
   }
 }
 
