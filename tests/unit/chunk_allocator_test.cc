@@ -38,8 +38,8 @@ TEST(ChunkAllocator, GivesChunksOfAnySizeThatAreAlignedAndDoNotOverlap) {
 
 TEST(ChunkAllocator, TakesABlockForEachChunkOfASmallDocument) {
   ChunkAllocator allocator;
-  auto* first = static_cast<char*>(allocator.Malloc(16));
-  EXPECT_NE(allocator.Malloc(16), first + 16);
+  auto* first = static_cast<char*>(allocator.Malloc(112));
+  EXPECT_NE(allocator.Malloc(16), first + 112);
 }
 
 TEST(ChunkAllocator, KeepsWhatIsGivenBack) {
