@@ -5,18 +5,17 @@
 #include <rapidjson/writer.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstring>
 #include <string_view>
 
 #include "json/aborting_allocator.h"
+#include "json/unescaped.h"
 
 namespace kovalt {
 
 /// An output stream of the library that collects a text and writes it to standard output in pieces of at most 65,536
-/// bytes. Unlike the library's own streams it takes runs of characters at once, which makes a display faster by a
-/// twelfth.
+/// bytes. Unlike the library's own streams it takes runs of characters at once, which makes a display faster.
 class DisplayStream {
  public:
   using Ch = char;
@@ -47,12 +46,17 @@ class DisplayStream {
   /// Adds the first characters of `text`, up to one that JSON strings escape or as many as there is room for. Returns
   /// how many.
   std::size_t putUnescaped(std::string_view text) {
+    const char* const from = text.data();
     const std::size_t limit = std::min(text.size(), room());
     // A member would be read again after each character, which might have changed it.
     char* const end = end_;
     std::size_t added = 0;
-    while (added < limit && kUnescaped[static_cast<unsigned char>(text[added])]) {
-      end[added] = text[added];
+    while (added + 4 <= limit && fourUnescaped(from + added)) {
+      std::memcpy(end + added, from + added, 4);
+      added += 4;
+    }
+    while (added < limit && unescaped(from[added]) != 0) {
+      end[added] = from[added];
       ++added;
     }
     end_ += added;
@@ -66,18 +70,11 @@ class DisplayStream {
   }
 
  private:
-  /// By its code, whether a character stands for itself in a JSON string.
-  static constexpr std::array<bool, 256> kUnescaped = [] {
-    std::array<bool, 256> unescaped{};
-    for (std::size_t character = ' '; character < unescaped.size(); ++character) {
-      unescaped[character] = character != '"' && character != '\\';
-    }
-    return unescaped;
-  }();
-
   [[nodiscard]] std::size_t room() const { return static_cast<std::size_t>(buffer_ + sizeof(buffer_) - end_); }
 
   char* end_ = buffer_;
+  // Clearing it would take longer than a small display; only what was put in is written.
+  // cppcheck-suppress uninitMemberVarPrivate
   char buffer_[65536];
 };
 

