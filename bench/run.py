@@ -255,7 +255,8 @@ def main():
     finally:
         shutil.rmtree(folder)
     table = "\n".join(["| work | measure | value | |", "|---|---|---|---|"] + bench.rows)
-    arguments.result.write_text(f"# Benchmark\n\nMade by `scripts/bench`, with its files in {tempfile.gettempdir()}.\n\n{versions()}\n\n{table}\n", encoding="utf-8")
+    origin = f"Made by `scripts/bench`, with its files in {tempfile.gettempdir()}."
+    arguments.result.write_text(f"# Benchmark\n\n{origin}\n\n{versions()}\n\n{table}\n", encoding="utf-8")
     print(f"\nBounds missed: {len(bench.missed)}")
     for missed in bench.missed:
         print(f"- {missed}")
