@@ -7,8 +7,8 @@
 #include "completion/starts_with.h"
 #include "json/find_member.h"
 #include "json/find_object_by_ref.h"
-#include "json/first_match_index.h"
 #include "json/key_path.h"
+#include "json/tuning/first_match_index.h"
 #include "json/value_to_text.h"
 
 namespace kovalt {

@@ -6,8 +6,8 @@
 
 #include <cmath>
 
-#include "json/aborting_allocator.h"
-#include "json/chunk_allocator.h"
+#include "json/tuning/aborting_allocator.h"
+#include "json/tuning/chunk_allocator.h"
 
 namespace kovalt {
 

@@ -7,7 +7,7 @@
 #include <cstring>
 
 #include "json/standard_streams.h"
-#include "json/unescaped.h"
+#include "json/tuning/unescaped.h"
 
 namespace rapidjson {
 

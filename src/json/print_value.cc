@@ -1,7 +1,7 @@
 #include "json/print_value.h"
 
-#include "json/display_stream.h"
 #include "json/standard_streams.h"
+#include "json/tuning/display_stream.h"
 #include "json/write_value.h"
 
 namespace kovalt {

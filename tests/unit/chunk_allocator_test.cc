@@ -1,4 +1,4 @@
-#include "json/chunk_allocator.h"
+#include "json/tuning/chunk_allocator.h"
 
 #include <gtest/gtest.h>
 

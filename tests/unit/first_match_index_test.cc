@@ -1,4 +1,4 @@
-#include "json/first_match_index.h"
+#include "json/tuning/first_match_index.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "json/first_match_index.h"
 #include "json/standard_streams.h"
+#include "json/tuning/first_match_index.h"
 
 namespace kovalt {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "json/first_match_index.h"
+#include "json/tuning/first_match_index.h"
 
 namespace kovalt {
 

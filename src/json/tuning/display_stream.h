@@ -9,8 +9,8 @@
 #include <cstring>
 #include <string_view>
 
-#include "json/aborting_allocator.h"
-#include "json/unescaped.h"
+#include "json/tuning/aborting_allocator.h"
+#include "json/tuning/unescaped.h"
 
 namespace kovalt {
 

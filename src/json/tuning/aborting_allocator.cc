@@ -1,4 +1,4 @@
-#include "json/aborting_allocator.h"
+#include "json/tuning/aborting_allocator.h"
 
 #include <cstdlib>
 
