@@ -1,18 +1,22 @@
 #include "example_file.h"
 
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 
 namespace kovalt::test {
 
-std::string exampleFile(const std::string& name) {
-  const std::string path = std::string(KOVALT_EXAMPLES_DIR) + "/" + name;
-  std::ifstream file(path, std::ios::binary);
+std::string projectFile(const std::string& path) {
+  const char* replacement = std::getenv("KOVALT_TEST_PROJECT");
+  const std::string place = std::string(replacement == nullptr ? KOVALT_PROJECT : replacement) + "/" + path;
+  std::ifstream file(place, std::ios::binary);
   if (!file) {
-    throw std::runtime_error("cannot read the example " + path);
+    throw std::runtime_error("cannot read " + place);
   }
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
+
+std::string exampleFile(const std::string& name) { return projectFile("examples/" + name); }
 
 }  // namespace kovalt::test

@@ -1,7 +1,8 @@
 #include <cctype>
-#include <fstream>
+#include <sstream>
 #include <string>
 
+#include "example_file.h"
 #include "tool_case.h"
 
 namespace kovalt::test {
@@ -47,7 +48,7 @@ Case acceptance(const std::string& name, const std::string& input, const std::st
 /// The rows of the page that lists the decisions, named by its headings.
 std::vector<Case> pageRows() {
   std::vector<Case> rows;
-  std::ifstream page(KOVALT_GRAMMAR_PAGE);
+  std::istringstream page(projectFile("docs/json-grammar.md"));
   std::string heading;
   for (std::string line; std::getline(page, line);) {
     if (line.rfind("## ", 0) == 0) {

@@ -91,8 +91,12 @@ void writeEntry(const fs::path& path, const Entry& entry) {
   fs::permissions(path, static_cast<fs::perms>(entry.mode));
 }
 
+/// The bytes of a file, also of one whose mode keeps an ordinary user from reading it.
 std::string readFile(const fs::path& path) {
+  const fs::perms mode = fs::status(path).permissions();
+  fs::permissions(path, mode | fs::perms::owner_read);
   std::ifstream file(path, std::ios::binary);
+  fs::permissions(path, mode);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
