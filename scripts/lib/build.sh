@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2034
-# Sourced by the scripts that build. Expects the project's folder as the current one.
+# Sourced by the scripts that build. Expects the project's folder as the current one, and stage.sh.
 
 # What a build needs.
 build_packages=(cmake ninja-build g++ libc6-dev rapidjson-dev)
@@ -9,30 +9,25 @@ package_packages=(dpkg-dev scdoc)
 test_packages=(bash-completion clang-format dpkg-dev fakeroot fish jq libgtest-dev man-db mandoc python3 scdoc strace tmux
   valgrind zsh)
 
-# Runs a command in silence, and shows on standard error what it said where it fails.
-quietly() {
-  local log status=0
-  log=$(mktemp)
-  "$@" >"$log" 2>&1 || status=$?
-  if ((status != 0)); then
-    cat "$log" >&2
-  fi
-  rm -f "$log"
-  return "$status"
-}
-
-# Configures build/FOLDER from a preset, with further arguments for CMake, where that was not done.
+# Configures build/FOLDER from a preset, with further arguments for CMake, where that was not done in this place: a
+# checkout that was copied or moved brings the build folders of the old one.
 configure() {
-  local folder=$1 preset=$2
+  local folder=$1 preset=$2 home
   shift 2
-  [[ -f build/$folder/build.ninja ]] || quietly cmake --preset "$preset" -B "build/$folder" "$@"
+  if [[ -f build/$folder/build.ninja ]]; then
+    home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "build/$folder/CMakeCache.txt")
+    if [[ $home -ef . ]]; then
+      return
+    fi
+  fi
+  run_stage "Configuring $folder" cmake --fresh --preset "$preset" -B "build/$folder" "$@"
 }
 
 # Brings the targets of build/FOLDER up to date, or everything without a target.
 build() {
   local folder=$1
   shift
-  quietly cmake --build "build/$folder" ${1:+--target "$@"}
+  run_stage "Building $folder" cmake --build "build/$folder" ${1:+--target "$@"}
 }
 
 # Brings the targets of a preset up to date, or everything without a target.
