@@ -101,4 +101,4 @@ _kovalt() {
     # The line editor forgets to close a quote behind a name that ends in one.
     COMPREPLY[0]+=$quote
   fi
-} && complete -F _kovalt Kovalt
+} && complete -F _kovalt Kovalt kovalt

@@ -35,4 +35,4 @@ function __kovalt_complete
     end
 end
 
-complete --command Kovalt --no-files --arguments '(__kovalt_complete)'
+complete --command Kovalt --command kovalt --no-files --arguments '(__kovalt_complete)'

@@ -21,8 +21,11 @@ file(
 
 execute_process(COMMAND strip --remove-section=.comment ${tree}/bin/Kovalt ${tree}/libexec/kovalt/complete
                 COMMAND_ERROR_IS_FATAL ANY)
+# The link to the page is made anew with the name that the page has once it is compressed.
+file(REMOVE ${share}/man/man1/kovalt.1)
 file(GLOB_RECURSE texts ${share}/man/* ${documents}/changelog*)
 execute_process(COMMAND gzip -9n ${texts} COMMAND_ERROR_IS_FATAL ANY)
+file(CREATE_LINK Kovalt.1.gz ${share}/man/man1/kovalt.1.gz SYMBOLIC)
 # The permissions must not depend on the umask.
 execute_process(COMMAND chmod -R u=rwX,go=rX ${tree} COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND find ${tree} -exec touch --no-dereference --date=@${seconds} {} +
