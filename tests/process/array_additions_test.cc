@@ -1,6 +1,6 @@
 // Additions of arrays of strings, numbers and booleans.
 
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -10,9 +10,9 @@ std::string rejected(const std::string& values) {
   return "Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, " + values + " rejected.\n";
 }
 
-std::vector<Case> stringRows() {
+std::vector<ToolCall> stringRows() {
   return {
-      Case("strings").call({"--addArray", "key", "stringValue1", "stringValue2", "stringValue3"}).prints(R"({
+      ToolCall("strings").call("--addArray key stringValue1 stringValue2 stringValue3").prints(R"({
     "key": [
         "stringValue1",
         "stringValue2",
@@ -20,142 +20,154 @@ std::vector<Case> stringRows() {
     ]
 }
 )"),
-      Case("strings_short_form").call({"-aa", "key", "b", "a", "-r", ""}).prints("{\"key\":[\"b\",\"a\"]}\n"),
-      Case("one_string").call({"--addArray", "k", "a", "-r", ""}).prints("{\"k\":[\"a\"]}\n"),
-      Case("one_argument_is_split_at_commas")
+      ToolCall("strings_short_form").call({"-aa", "key", "b", "a", "-r", ""}).prints("{\"key\":[\"b\",\"a\"]}\n"),
+      ToolCall("one_string").call({"--addArray", "k", "a", "-r", ""}).prints("{\"k\":[\"a\"]}\n"),
+      ToolCall("one_argument_is_split_at_commas")
           .call({"--addArray", "k", "a,b,c", "-r", ""})
           .prints("{\"k\":[\"a\",\"b\",\"c\"]}\n"),
-      Case("two_arguments_are_not_split")
+      ToolCall("two_arguments_are_not_split")
           .call({"--addArray", "k", "a,b", "c", "-r", ""})
           .prints("{\"k\":[\"a,b\",\"c\"]}\n"),
-      Case("empty_piece_is_kept").call({"--addArray", "k", "a,,b", "-r", ""}).prints("{\"k\":[\"a\",\"\",\"b\"]}\n"),
-      Case("leading_empty_piece_is_kept").call({"--addArray", "k", ",a", "-r", ""}).prints("{\"k\":[\"\",\"a\"]}\n"),
-      Case("trailing_comma_gives_no_piece")
+      ToolCall("empty_piece_is_kept")
+          .call({"--addArray", "k", "a,,b", "-r", ""})
+          .prints("{\"k\":[\"a\",\"\",\"b\"]}\n"),
+      ToolCall("leading_empty_piece_is_kept")
+          .call({"--addArray", "k", ",a", "-r", ""})
+          .prints("{\"k\":[\"\",\"a\"]}\n"),
+      ToolCall("trailing_comma_gives_no_piece")
           .call({"--addArray", "k", "a,b,", "-r", ""})
           .prints("{\"k\":[\"a\",\"b\"]}\n"),
-      Case("lone_comma_is_one_empty_piece").call({"--addArray", "k", ",", "-r", ""}).prints("{\"k\":[\"\"]}\n"),
-      Case("two_commas_are_two_empty_pieces").call({"--addArray", "k", ",,", "-r", ""}).prints("{\"k\":[\"\",\"\"]}\n"),
-      Case("spaces_around_commas_are_kept")
+      ToolCall("lone_comma_is_one_empty_piece").call({"--addArray", "k", ",", "-r", ""}).prints("{\"k\":[\"\"]}\n"),
+      ToolCall("two_commas_are_two_empty_pieces")
+          .call({"--addArray", "k", ",,", "-r", ""})
+          .prints("{\"k\":[\"\",\"\"]}\n"),
+      ToolCall("spaces_around_commas_are_kept")
           .call({"--addArray", "k", "a , b", "-r", ""})
           .prints("{\"k\":[\"a \",\" b\"]}\n"),
-      Case("split_piece_may_begin_with_a_dash")
+      ToolCall("split_piece_may_begin_with_a_dash")
           .call({"--addArray", "k", "a,-b", "-r", ""})
           .prints("{\"k\":[\"a\",\"-b\"]}\n"),
-      Case("empty_list_at_the_end").call({"--addArray", "k"}).prints("{\n    \"k\": []\n}\n"),
-      Case("empty_list_before_an_option")
+      ToolCall("empty_list_at_the_end").call("--addArray k").prints("{\n    \"k\": []\n}\n"),
+      ToolCall("empty_list_before_an_option")
           .call({"--addArray", "k", "-as", "a", "b", "-r", ""})
           .prints("{\"k\":[],\"a\":\"b\"}\n"),
-      Case("key_path_may_look_like_an_option").call({"--addArray", "-k", "a", "-r", ""}).prints("{\"-k\":[\"a\"]}\n"),
-      Case("empty_argument_ends_the_list")
+      ToolCall("key_path_may_look_like_an_option")
+          .call({"--addArray", "-k", "a", "-r", ""})
+          .prints("{\"-k\":[\"a\"]}\n"),
+      ToolCall("empty_argument_ends_the_list")
           .call({"--addArray", "k", "a", "", "b"})
           .prints("Error: invalid argument \n")
           .exits(1),
-      Case("strings_keep_their_bytes")
+      ToolCall("strings_keep_their_bytes")
           .call({"--addArray", "k", "1", "TRUE", " \"\n\xC3\xA9", "-r", ""})
           .prints("{\"k\":[\"1\",\"TRUE\",\" \\\"\\n\xC3\xA9\"]}\n"),
-      Case("equal_strings_are_kept")
+      ToolCall("equal_strings_are_kept")
           .call({"--addArray", "k", "a,a,a", "-r", ""})
           .prints("{\"k\":[\"a\",\"a\",\"a\"]}\n"),
-      Case("strings_under_missing_objects")
+      ToolCall("strings_under_missing_objects")
           .call({"--addArray", "a.b", "x", "-r", ""})
           .prints("{\"a\":{\"b\":[\"x\"]}}\n"),
-      Case("array_replaces_an_array")
+      ToolCall("array_replaces_an_array")
           .given("f.json", R"({"k":["x","y"],"l":1})")
-          .call({"--file", "f.json", "--addArray", "k", "z"})
+          .call("--file f.json --addArray k z")
           .leaves("f.json", "{\n  \"k\": [\n    \"z\"\n  ],\n  \"l\": 1\n}"),
-      Case("empty_array_replaces_an_array")
+      ToolCall("empty_array_replaces_an_array")
           .given("f.json", R"({"k":["x","y"]})")
-          .call({"--file", "f.json", "--addArray", "k"})
+          .call("--file f.json --addArray k")
           .leaves("f.json", "{\n  \"k\": []\n}"),
-      Case("array_replaces_an_object")
+      ToolCall("array_replaces_an_object")
           .given("f.json", R"({"k":{"a":1}})")
-          .call({"--file", "f.json", "--addArray", "k", "z"})
+          .call("--file f.json --addArray k z")
           .leaves("f.json", "{\n  \"k\": [\n    \"z\"\n  ]\n}"),
-      Case("array_replaces_the_root")
+      ToolCall("array_replaces_the_root")
           .given("f.json", R"({"k":1})")
           .call({"--file", "f.json", "--addArray", "", "x", "y"})
           .leaves("f.json", "[\n  \"x\",\n  \"y\"\n]"),
-      Case("last_of_two_arrays_stays")
+      ToolCall("last_of_two_arrays_stays")
           .call({"-aa", "k", "a", "b", "-aa", "k", "c", "-r", ""})
           .prints("{\"k\":[\"c\"]}\n"),
-      Case("array_behind_a_failed_selection_is_appended")
+      ToolCall("array_behind_a_failed_selection_is_appended")
           .call({"-aa", "k=1", "a", "b", "-aa", "k=1", "a", "-r", ""})
           .prints("{\"k=1\":[\"a\",\"b\",\"a\"]}\n")
           .reports("Kovalt path not found with refKey=refValue \"k=1\"\n"
                    "Kovalt path not found with refKey=refValue \"k=1\"\n"),
-      Case("array_in_a_selected_object")
+      ToolCall("array_in_a_selected_object")
           .given("f.json", R"([{"id":1,"tags":["x"]}])")
-          .call({"--file", "f.json", "--addArray", "id=1.tags", "y"})
+          .call("--file f.json --addArray id=1.tags y")
           .leaves("f.json", "[\n  {\n    \"id\": 1,\n    \"tags\": [\n      \"y\"\n    ]\n  }\n]"),
-      Case("array_below_a_string_clashes")
+      ToolCall("array_below_a_string_clashes")
           .given("f.json", R"({"a":"s"})")
-          .call({"--file", "f.json", "--addArray", "a.b", "x"})
+          .call("--file f.json --addArray a.b x")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("array_below_an_array_clashes")
+      ToolCall("array_below_an_array_clashes")
           .given("f.json", R"({"a":["s"]})")
-          .call({"--file", "f.json", "--addArray", "a.b", "x"})
+          .call("--file f.json --addArray a.b x")
           .reports("Incompatible types for key a\n")
           .exits(1),
   };
 }
 
-std::vector<Case> numberRows() {
+std::vector<ToolCall> numberRows() {
   return {
-      Case("numbers")
-          .call({"--addArrayNumber", "key", "0", "1", "2", "3"})
+      ToolCall("numbers")
+          .call("--addArrayNumber key 0 1 2 3")
           .prints("{\n    \"key\": [\n        0,\n        1,\n        2,\n        3\n    ]\n}\n"),
-      Case("numbers_short_form").call({"-aan", "key", "0", "1", "-r", ""}).prints("{\"key\":[0,1]}\n"),
-      Case("numbers_in_one_argument").call({"--addArrayNumber", "k", "1,2,3", "-r", ""}).prints("{\"k\":[1,2,3]}\n"),
-      Case("numbers_in_three_arguments")
+      ToolCall("numbers_short_form").call({"-aan", "key", "0", "1", "-r", ""}).prints("{\"key\":[0,1]}\n"),
+      ToolCall("numbers_in_one_argument")
+          .call({"--addArrayNumber", "k", "1,2,3", "-r", ""})
+          .prints("{\"k\":[1,2,3]}\n"),
+      ToolCall("numbers_in_three_arguments")
           .call({"--addArrayNumber", "k", "1", "2", "3", "-r", ""})
           .prints("{\"k\":[1,2,3]}\n"),
-      Case("unsplit_number_stops_at_its_comma")
+      ToolCall("unsplit_number_stops_at_its_comma")
           .call({"--addArrayNumber", "k", "1,2", "3", "-r", ""})
           .prints("{\"k\":[1,3]}\n"),
-      Case("negative_numbers_in_one_argument")
+      ToolCall("negative_numbers_in_one_argument")
           .call({"--addArrayNumber", "k", "1,-5,-6", "-r", ""})
           .prints("{\"k\":[1,-5,-6]}\n"),
-      Case("negative_number_ends_the_list")
-          .call({"--addArrayNumber", "k", "1", "-1"})
+      ToolCall("negative_number_ends_the_list")
+          .call("--addArrayNumber k 1 -1")
           .prints("Error: invalid argument -1\n")
           .exits(1),
-      Case("negative_number_alone_is_no_list")
-          .call({"--addArrayNumber", "k", "-1"})
+      ToolCall("negative_number_alone_is_no_list")
+          .call("--addArrayNumber k -1")
           .prints("Error: invalid argument -1\n")
           .exits(1),
-      Case("numbers_stop_at_the_first_other_character")
+      ToolCall("numbers_stop_at_the_first_other_character")
           .call({"--addArrayNumber", "k", "12abc", "3.9", "0x1F", " +7", "010", "-r", ""})
           .prints("{\"k\":[12,3,0,7,10]}\n"),
-      Case("numbers_at_the_limits")
+      ToolCall("numbers_at_the_limits")
           .call({"--addArrayNumber", "k", "2147483647,-2147483648", "-r", ""})
           .prints("{\"k\":[2147483647,-2147483648]}\n"),
-      Case("trailing_comma_after_numbers").call({"--addArrayNumber", "k", "1,2,", "-r", ""}).prints("{\"k\":[1,2]}\n"),
-      Case("no_numbers").call({"--addArrayNumber", "k", "-r", ""}).prints("{\"k\":[]}\n"),
-      Case("empty_piece_is_no_number").call({"--addArrayNumber", "k", "1,,2"}).aborts(),
-      Case("word_is_no_number").call({"--addArrayNumber", "k", "1", "two"}).aborts(),
-      Case("number_of_the_array_above_the_range").call({"--addArrayNumber", "k", "1", "2147483648"}).aborts(),
-      Case("number_of_the_array_below_the_range").call({"--addArrayNumber", "k", "1,-2147483649"}).aborts(),
-      Case("bad_number_leaves_the_file")
+      ToolCall("trailing_comma_after_numbers")
+          .call({"--addArrayNumber", "k", "1,2,", "-r", ""})
+          .prints("{\"k\":[1,2]}\n"),
+      ToolCall("no_numbers").call({"--addArrayNumber", "k", "-r", ""}).prints("{\"k\":[]}\n"),
+      ToolCall("empty_piece_is_no_number").call("--addArrayNumber k 1,,2").aborts(),
+      ToolCall("word_is_no_number").call("--addArrayNumber k 1 two").aborts(),
+      ToolCall("number_of_the_array_above_the_range").call("--addArrayNumber k 1 2147483648").aborts(),
+      ToolCall("number_of_the_array_below_the_range").call("--addArrayNumber k 1,-2147483649").aborts(),
+      ToolCall("bad_number_leaves_the_file")
           .given("f.json", R"({"k":[1]})")
-          .call({"--fileDisplay", "f.json", "--addArrayNumber", "k", "1", "x"})
+          .call("--fileDisplay f.json --addArrayNumber k 1 x")
           .aborts(),
-      Case("numbers_replace_an_array")
+      ToolCall("numbers_replace_an_array")
           .given("f.json", R"({"key":[1,2]})")
-          .call({"--file", "f.json", "--addArrayNumber", "key", "3"})
+          .call("--file f.json --addArrayNumber key 3")
           .leaves("f.json", "{\n  \"key\": [\n    3\n  ]\n}"),
-      Case("numbers_below_a_number_clash")
+      ToolCall("numbers_below_a_number_clash")
           .given("f.json", R"({"a":1})")
-          .call({"--file", "f.json", "--addArrayNumber", "a.b", "1"})
+          .call("--file f.json --addArrayNumber a.b 1")
           .reports("Incompatible types for key a\n")
           .exits(1),
   };
 }
 
-std::vector<Case> booleanRows() {
+std::vector<ToolCall> booleanRows() {
   return {
-      Case("booleans")
-          .call({"--addArrayBoolean", "key", "TRUE", "1", "FalSe", "0", "hello"})
+      ToolCall("booleans")
+          .call("--addArrayBoolean key TRUE 1 FalSe 0 hello")
           .prints(R"({
     "key": [
         true,
@@ -167,68 +179,68 @@ std::vector<Case> booleanRows() {
 }
 )")
           .reports(rejected("[ true 1 false 0 hello ]")),
-      Case("booleans_short_form").call({"-aab", "k", "true", "0", "-r", ""}).prints("{\"k\":[true,false]}\n"),
-      Case("booleans_in_one_argument")
+      ToolCall("booleans_short_form").call({"-aab", "k", "true", "0", "-r", ""}).prints("{\"k\":[true,false]}\n"),
+      ToolCall("booleans_in_one_argument")
           .call({"--addArrayBoolean", "k", "true,FALSE,1,0", "-r", ""})
           .prints("{\"k\":[true,false,true,false]}\n"),
-      Case("no_booleans").call({"--addArrayBoolean", "k", "-r", ""}).prints("{\"k\":[]}\n"),
-      Case("many_rejected_booleans_give_one_line")
+      ToolCall("no_booleans").call({"--addArrayBoolean", "k", "-r", ""}).prints("{\"k\":[]}\n"),
+      ToolCall("many_rejected_booleans_give_one_line")
           .call({"--addArrayBoolean", "k", "YES", "true", "No", "-r", ""})
           .prints("{\"k\":[null,true,null]}\n")
           .reports(rejected("[ yes true no ]")),
-      Case("one_rejected_boolean")
+      ToolCall("one_rejected_boolean")
           .call({"--addArrayBoolean", "k", "Hello", "-r", ""})
           .prints("{\"k\":[null]}\n")
           .reports(rejected("[ hello ]")),
-      Case("rejected_empty_piece")
+      ToolCall("rejected_empty_piece")
           .call({"--addArrayBoolean", "k", "true,,0", "-r", ""})
           .prints("{\"k\":[true,null,false]}\n")
           .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, [ true  0 ] rejected.\n"),
-      Case("rejected_value_with_a_comma")
+      ToolCall("rejected_value_with_a_comma")
           .call({"--addArrayBoolean", "k", "TRUE,FALSE", "1", "-r", ""})
           .prints("{\"k\":[null,true]}\n")
           .reports(rejected("[ true,false 1 ]")),
-      Case("rejected_value_with_a_space")
+      ToolCall("rejected_value_with_a_space")
           .call({"--addArrayBoolean", "k", " true", "-r", ""})
           .prints("{\"k\":[null]}\n")
           .reports(rejected("[  true ]")),
-      Case("array_booleans_make_only_ascii_letters_small")
+      ToolCall("array_booleans_make_only_ascii_letters_small")
           .call({"--addArrayBoolean", "k", "\xC3\x89T", "-r", ""})
           .prints("{\"k\":[null]}\n")
           .reports(rejected("[ \xC3\x89t ]")),
-      Case("rejected_booleans_for_an_existing_key_give_one_line")
+      ToolCall("rejected_booleans_for_an_existing_key_give_one_line")
           .given("f.json", R"({"k":[true,true]})")
-          .call({"--file", "f.json", "--addArrayBoolean", "k", "no"})
+          .call("--file f.json --addArrayBoolean k no")
           .reports(rejected("[ no ]"))
           .leaves("f.json", "{\n  \"k\": [\n    null\n  ]\n}"),
-      Case("rejected_booleans_replace_a_value_of_another_type")
+      ToolCall("rejected_booleans_replace_a_value_of_another_type")
           .given("f.json", R"({"k":"s"})")
-          .call({"--file", "f.json", "--addArrayBoolean", "k", "no"})
+          .call("--file f.json --addArrayBoolean k no")
           .reports(rejected("[ no ]"))
           .leaves("f.json", "{\n  \"k\": [\n    null\n  ]\n}"),
-      Case("rejected_booleans_under_missing_objects_give_one_line")
+      ToolCall("rejected_booleans_under_missing_objects_give_one_line")
           .call({"--addArrayBoolean", "a.b", "no", "-r", ""})
           .prints("{\"a\":{\"b\":[null]}}\n")
           .reports(rejected("[ no ]")),
-      Case("rejected_booleans_at_the_root")
+      ToolCall("rejected_booleans_at_the_root")
           .call({"--addArrayBoolean", "", "no"})
           .prints("[\n    null\n]\n")
           .reports(rejected("[ no ]")),
-      Case("rejected_booleans_below_a_string_clash")
+      ToolCall("rejected_booleans_below_a_string_clash")
           .given("f.json", R"({"a":"s"})")
-          .call({"--file", "f.json", "--addArrayBoolean", "a.b", "no"})
+          .call("--file f.json --addArrayBoolean a.b no")
           .reports(rejected("[ no ]") + "Incompatible types for key a\n")
           .exits(1),
-      Case("each_array_reports_its_own_values")
+      ToolCall("each_array_reports_its_own_values")
           .call({"-aab", "k", "x", "-aab", "l", "1", "-aab", "m", "y", "-r", ""})
           .prints("{\"k\":[null],\"l\":[true],\"m\":[null]}\n")
           .reports(rejected("[ x ]") + rejected("[ y ]")),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(StringArrayAdditions, ToolCall, testing::ValuesIn(stringRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(NumberArrayAdditions, ToolCall, testing::ValuesIn(numberRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(BooleanArrayAdditions, ToolCall, testing::ValuesIn(booleanRows()), rowName);
+const Table kStringArrayAdditions("StringArrayAdditions", stringRows);
+const Table kNumberArrayAdditions("NumberArrayAdditions", numberRows);
+const Table kBooleanArrayAdditions("BooleanArrayAdditions", booleanRows);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -1,4 +1,4 @@
-#include "tool_case.h"
+#include "tool_call.h"
 
 // Every form of every array read, on one array.
 
@@ -7,76 +7,73 @@ namespace {
 
 constexpr auto kMixed = R"({"a": ["a", "b c", 1, true, null]})";
 
-std::vector<Case> rows() {
+std::vector<ToolCall> rows() {
   return {
-      Case("readArrayComma_keeps_commas_and_quotes")
+      ToolCall("readArrayComma_keeps_commas_and_quotes")
           .given("d.json", kMixed)
-          .call({"--file", "d.json", "--readArrayComma", "a"})
+          .call("--file d.json --readArrayComma a")
           .prints("\"a\",\"b c\",1,true,null\n"),
-      Case("rac_keeps_commas_and_quotes")
+      ToolCall("rac_keeps_commas_and_quotes")
           .given("d.json", kMixed)
-          .call({"-f", "d.json", "-rac", "a"})
+          .call("-f d.json -rac a")
           .prints("\"a\",\"b c\",1,true,null\n"),
-      Case("readArrayCommaNoQuote_drops_quotes")
+      ToolCall("readArrayCommaNoQuote_drops_quotes")
           .given("d.json", kMixed)
-          .call({"--file", "d.json", "--readArrayCommaNoQuote", "a"})
+          .call("--file d.json --readArrayCommaNoQuote a")
           .prints("a,b c,1,true,null\n"),
-      Case("racq_drops_quotes")
+      ToolCall("racq_drops_quotes").given("d.json", kMixed).call("-f d.json -racq a").prints("a,b c,1,true,null\n"),
+      ToolCall("readArraySpace_puts_spaces_and_keeps_quotes")
           .given("d.json", kMixed)
-          .call({"-f", "d.json", "-racq", "a"})
-          .prints("a,b c,1,true,null\n"),
-      Case("readArraySpace_puts_spaces_and_keeps_quotes")
-          .given("d.json", kMixed)
-          .call({"--file", "d.json", "--readArraySpace", "a"})
+          .call("--file d.json --readArraySpace a")
           .prints("\"a\" \"b c\" 1 true null\n"),
-      Case("ras_puts_spaces_and_keeps_quotes")
+      ToolCall("ras_puts_spaces_and_keeps_quotes")
           .given("d.json", kMixed)
-          .call({"-f", "d.json", "-ras", "a"})
+          .call("-f d.json -ras a")
           .prints("\"a\" \"b c\" 1 true null\n"),
-      Case("readArraySpaceNoQuote_puts_spaces_and_drops_quotes")
+      ToolCall("readArraySpaceNoQuote_puts_spaces_and_drops_quotes")
           .given("d.json", kMixed)
-          .call({"--file", "d.json", "--readArraySpaceNoQuote", "a"})
+          .call("--file d.json --readArraySpaceNoQuote a")
           .prints("a b c 1 true null\n"),
-      Case("rasq_puts_spaces_and_drops_quotes")
+      ToolCall("rasq_puts_spaces_and_drops_quotes")
           .given("d.json", kMixed)
-          .call({"-f", "d.json", "-rasq", "a"})
+          .call("-f d.json -rasq a")
           .prints("a b c 1 true null\n"),
-      Case("readArray_is_the_space_form_without_quotes")
+      ToolCall("readArray_is_the_space_form_without_quotes")
           .given("d.json", kMixed)
-          .call({"--file", "d.json", "--readArray", "a"})
+          .call("--file d.json --readArray a")
           .prints("a b c 1 true null\n"),
-      Case("ra_is_the_space_form_without_quotes")
+      ToolCall("ra_is_the_space_form_without_quotes")
           .given("d.json", kMixed)
-          .call({"-f", "d.json", "-ra", "a"})
+          .call("-f d.json -ra a")
           .prints("a b c 1 true null\n"),
-      Case("an_array_just_added_reads_by_spaces")
-          .call({"--readArray", "key", "--addArray", "key", "val1", "val2"})
+      ToolCall("an_array_just_added_reads_by_spaces")
+          .call("--readArray key --addArray key val1 val2")
           .prints("val1 val2\n"),
-      Case("an_array_just_added_reads_by_spaces_in_quotes")
-          .call({"--readArraySpace", "key", "--addArray", "key", "val1", "val2"})
+      ToolCall("an_array_just_added_reads_by_spaces_in_quotes")
+          .call("--readArraySpace key --addArray key val1 val2")
           .prints("\"val1\" \"val2\"\n"),
-      Case("an_array_just_added_reads_by_commas_in_quotes")
-          .call({"--readArrayComma", "key", "--addArray", "key", "val1", "val2"})
+      ToolCall("an_array_just_added_reads_by_commas_in_quotes")
+          .call("--readArrayComma key --addArray key val1 val2")
           .prints("\"val1\",\"val2\"\n"),
-      Case("an_array_just_added_reads_by_commas")
-          .call({"--readArrayCommaNoQuote", "key", "--addArray", "key", "val1", "val2"})
+      ToolCall("an_array_just_added_reads_by_commas")
+          .call("--readArrayCommaNoQuote key --addArray key val1 val2")
           .prints("val1,val2\n"),
-      Case("a_form_without_its_path_takes_the_next_option_as_path")
-          .call({"--readArraySpaceNoQuote", "--addArray", "key", "val1", "val2"})
+      ToolCall("a_form_without_its_path_takes_the_next_option_as_path")
+          .call("--readArraySpaceNoQuote --addArray key val1 val2")
           .prints("Error: invalid argument key\n")
           .exits(1),
-      Case("a_form_at_the_end_misses_its_argument")
-          .call({"-racq"})
+      ToolCall("a_form_at_the_end_misses_its_argument")
+          .call("-racq")
           .prints("Error: Error: missing argument(s) after -racq\n")
           .exits(1),
-      Case("a_long_form_at_the_end_misses_its_argument")
-          .call({"--readArray"})
+      ToolCall("a_long_form_at_the_end_misses_its_argument")
+          .call("--readArray")
           .prints("Error: Error: missing argument(s) after --readArray\n")
           .exits(1),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(ArrayReadingForms, ToolCall, testing::ValuesIn(rows()), rowName);
+const Table kArrayReadingForms("ArrayReadingForms", rows);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -1,4 +1,4 @@
-#include "tool_case.h"
+#include "tool_call.h"
 
 // The arguments of the concatenations: the field list and the separators taken from it.
 
@@ -8,121 +8,112 @@ namespace {
 constexpr auto kLetters = R"({"l":[{"a":"A","b":"B","c":"C","d":"D"}]})";
 
 /// From none to four separator characters, each with one to four fields.
-std::vector<Case> rowsOfSeparators() {
+std::vector<ToolCall> rowsOfSeparators() {
   return {
-      Case("no_separator_and_one_field")
+      ToolCall("no_separator_and_one_field").given("d.json", kLetters).call("-f d.json -roacs l a,,").prints("A\n"),
+      ToolCall("no_separator_and_two_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a,,"})
-          .prints("A\n"),
-      Case("no_separator_and_two_fields")
-          .given("d.json", kLetters)
-          .call({"-f", "d.json", "--readObjectArrayConcatSep", "l", "a,b,,"})
+          .call("-f d.json --readObjectArrayConcatSep l a,b,,")
           .prints("AB\n"),
-      Case("no_separator_and_three_fields")
+      ToolCall("no_separator_and_three_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a,b,c,,"})
+          .call("-f d.json -roacs l a,b,c,,")
           .prints("ABC\n"),
-      Case("no_separator_and_four_fields")
+      ToolCall("no_separator_and_four_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a,b,c,d,,"})
+          .call("-f d.json -roacs l a,b,c,d,,")
           .prints("ABCD\n"),
-      Case("one_separator_and_one_field")
+      ToolCall("one_separator_and_one_field").given("d.json", kLetters).call("-f d.json -roacs l a /").prints("A\n"),
+      ToolCall("one_separator_and_two_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "/"})
-          .prints("A\n"),
-      Case("one_separator_and_two_fields")
-          .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "/"})
+          .call("-f d.json -roacs l a b /")
           .prints("A/B\n"),
-      Case("one_separator_and_three_fields")
+      ToolCall("one_separator_and_three_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "/"})
+          .call("-f d.json -roacs l a b c /")
           .prints("A/B/C\n"),
-      Case("one_separator_and_four_fields")
+      ToolCall("one_separator_and_four_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "d", "/"})
+          .call("-f d.json -roacs l a b c d /")
           .prints("A/B/C/D\n"),
-      Case("two_separators_and_one_field")
+      ToolCall("two_separators_and_one_field").given("d.json", kLetters).call("-f d.json -roacs l a /:").prints("A\n"),
+      ToolCall("two_separators_and_two_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "/:"})
-          .prints("A\n"),
-      Case("two_separators_and_two_fields")
-          .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "/:"})
+          .call("-f d.json -roacs l a b /:")
           .prints("A/B\n"),
-      Case("two_separators_and_three_fields")
+      ToolCall("two_separators_and_three_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "/:"})
+          .call("-f d.json -roacs l a b c /:")
           .prints("A/B:C\n"),
-      Case("two_separators_and_four_fields")
+      ToolCall("two_separators_and_four_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "d", "/:"})
+          .call("-f d.json -roacs l a b c d /:")
           .prints("A/B:C:D\n"),
-      Case("three_separators_and_one_field")
+      ToolCall("three_separators_and_one_field")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "/:-"})
+          .call("-f d.json -roacs l a /:-")
           .prints("A\n"),
-      Case("three_separators_and_two_fields")
+      ToolCall("three_separators_and_two_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "/:-"})
+          .call("-f d.json -roacs l a b /:-")
           .prints("A/B\n"),
-      Case("three_separators_and_three_fields")
+      ToolCall("three_separators_and_three_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "/:-"})
+          .call("-f d.json -roacs l a b c /:-")
           .prints("A/B:C\n"),
-      Case("three_separators_and_four_fields")
+      ToolCall("three_separators_and_four_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "d", "/:-"})
+          .call("-f d.json -roacs l a b c d /:-")
           .prints("A/B:C-D\n"),
-      Case("four_separators_and_one_field")
+      ToolCall("four_separators_and_one_field")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "/:-+"})
+          .call("-f d.json -roacs l a /:-+")
           .prints("A\n"),
-      Case("four_separators_and_two_fields")
+      ToolCall("four_separators_and_two_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "/:-+"})
+          .call("-f d.json -roacs l a b /:-+")
           .prints("A/B\n"),
-      Case("four_separators_and_three_fields")
+      ToolCall("four_separators_and_three_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "/:-+"})
+          .call("-f d.json -roacs l a b c /:-+")
           .prints("A/B:C\n"),
-      Case("four_separators_and_four_fields")
+      ToolCall("four_separators_and_four_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "d", "/:-+"})
+          .call("-f d.json -roacs l a b c d /:-+")
           .prints("A/B:C-D\n"),
-      Case("the_default_separator_repeats_for_every_field")
+      ToolCall("the_default_separator_repeats_for_every_field")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roac", "l", "a", "b", "c", "d"})
+          .call("-f d.json -roac l a b c d")
           .prints("A B C D\n"),
-      Case("spaces_are_separators_like_any_other")
+      ToolCall("spaces_are_separators_like_any_other")
           .given("d.json", kLetters)
           .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "  "})
           .prints("A B C\n"),
-      Case("a_comma_may_be_the_separator")
+      ToolCall("a_comma_may_be_the_separator")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", ","})
+          .call("-f d.json -roacs l a b ,")
           .prints("A,B\n"),
-      Case("a_quote_and_a_backslash_may_be_separators")
+      ToolCall("a_quote_and_a_backslash_may_be_separators")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "\"\\"})
+          .call("-f d.json -roacs l a b c \"\\")
           .prints("A\"B\\C\n"),
-      Case("separators_are_escaped_when_gathered")
+      ToolCall("separators_are_escaped_when_gathered")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "\"\\", "-r", "l.a=A.a"})
+          .call("-f d.json -roacs l a b c \"\\ -r l.a=A.a")
           .prints("{\n    \"l\": \"A\\\"B\\\\C\",\n    \"l.a=A.a\": \"A\"\n}\n"),
-      Case("separators_are_bytes_not_letters")
+      ToolCall("separators_are_bytes_not_letters")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "\xC3\xA9"})
+          .call("-f d.json -roacs l a b c \xC3\xA9")
           .prints("A\xC3"
                   "B\xA9"
                   "C\n"),
-      Case("a_forgotten_separator_takes_the_last_field")
+      ToolCall("a_forgotten_separator_takes_the_last_field")
           .given("d.json", R"({"l":[{"id":0,"host":"h","port":1}]})")
-          .call({"-f", "d.json", "-roacs", "l", "id", "host", "port"})
+          .call("-f d.json -roacs l id host port")
           .prints("0ph\n"),
-      Case("separators_stand_around_missing_fields")
+      ToolCall("separators_stand_around_missing_fields")
           .given("d.json", R"({"l":[{}]})")
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "c", "/:"})
+          .call("-f d.json -roacs l a b c /:")
           .prints("/:\n")
           .reports("--read error : Path \"a\" does not exist\n"
                    "--read error : Path \"b\" does not exist\n"
@@ -130,121 +121,121 @@ std::vector<Case> rowsOfSeparators() {
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(ConcatenationSeparators, ToolCall, testing::ValuesIn(rowsOfSeparators()), rowName);
+const Table kConcatenationSeparators("ConcatenationSeparators", rowsOfSeparators);
 
-std::vector<Case> rowsOfLists() {
+std::vector<ToolCall> rowsOfLists() {
   return {
-      Case("one_value_is_split_at_commas_into_fields")
+      ToolCall("one_value_is_split_at_commas_into_fields")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "--readObjectArrayConcat", "l", "a,b,c"})
+          .call("-f d.json --readObjectArrayConcat l a,b,c")
           .prints("A B C\n"),
-      Case("one_value_is_split_into_fields_and_separators")
+      ToolCall("one_value_is_split_into_fields_and_separators")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a,b,c,/:"})
+          .call("-f d.json -roacs l a,b,c,/:")
           .prints("A/B:C\n"),
-      Case("a_separator_that_begins_with_a_dash_fits_into_a_comma_list")
+      ToolCall("a_separator_that_begins_with_a_dash_fits_into_a_comma_list")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a,b,c,-+"})
+          .call("-f d.json -roacs l a,b,c,-+")
           .prints("A-B+C\n"),
-      Case("a_last_comma_gives_no_separator_of_its_own")
+      ToolCall("a_last_comma_gives_no_separator_of_its_own")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a,b,"})
+          .call("-f d.json -roacs l a,b,")
           .prints("A\n"),
-      Case("a_last_comma_gives_no_field_of_its_own")
+      ToolCall("a_last_comma_gives_no_field_of_its_own")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roac", "l", "a,b,"})
+          .call("-f d.json -roac l a,b,")
           .prints("A B\n"),
-      Case("an_empty_piece_in_the_middle_is_the_whole_element")
+      ToolCall("an_empty_piece_in_the_middle_is_the_whole_element")
           .given("d.json", R"({"l":[{"a":1}]})")
-          .call({"-f", "d.json", "-roac", "l", "a,,a"})
+          .call("-f d.json -roac l a,,a")
           .prints("1 {\"a\":1} 1\n"),
-      Case("two_values_are_not_split")
+      ToolCall("two_values_are_not_split")
           .given("d.json", R"({"l":[{"a,b":"x","a":"A","c":"C"}]})")
-          .call({"-f", "d.json", "-roac", "l", "a,b", "c"})
+          .call("-f d.json -roac l a,b c")
           .prints("x C\n"),
-      Case("a_field_beside_its_separator_is_not_split")
+      ToolCall("a_field_beside_its_separator_is_not_split")
           .given("d.json", R"({"l":[{"a,b":"x","a":"A","b":"B"}]})")
-          .call({"-f", "d.json", "-roacs", "l", "a,b", "/"})
+          .call("-f d.json -roacs l a,b /")
           .prints("x\n"),
-      Case("two_commas_give_one_empty_field_and_no_separator")
+      ToolCall("two_commas_give_one_empty_field_and_no_separator")
           .given("d.json", R"({"l":["x"]})")
-          .call({"-f", "d.json", "-roacs", "l", ",,"})
+          .call("-f d.json -roacs l ,,")
           .prints("x\n"),
-      Case("an_option_behind_the_path_leaves_no_field_and_one_empty_record")
+      ToolCall("an_option_behind_the_path_leaves_no_field_and_one_empty_record")
           .given("d.json", R"({"l":[{"a":1}]})")
-          .call({"-roac", "l", "-f", "d.json"})
+          .call("-roac l -f d.json")
           .prints("\n"),
-      Case("no_field_counts_the_elements")
+      ToolCall("no_field_counts_the_elements")
           .given("d.json", R"({"l":[{"a":1},{"a":2},3]})")
-          .call({"--readObjectArrayConcat", "l", "--file", "d.json"})
+          .call("--readObjectArrayConcat l --file d.json")
           .prints("(3)\n"),
-      Case("no_field_of_an_empty_array_prints_an_empty_line")
+      ToolCall("no_field_of_an_empty_array_prints_an_empty_line")
           .given("d.json", R"({"l":[]})")
-          .call({"-roac", "l", "-f", "d.json"})
+          .call("-roac l -f d.json")
           .prints("\n"),
-      Case("no_field_gathers_the_bare_count")
-          .call({"-roac", "l", "-aa", "l", "x", "y", "-ra", "l"})
+      ToolCall("no_field_gathers_the_bare_count")
+          .call("-roac l -aa l x y -ra l")
           .prints("{\n    \"l\": \"(2)\",\n    \"l\": \"x y\"\n}\n"),
-      Case("an_option_where_the_path_belongs_is_the_path")
+      ToolCall("an_option_where_the_path_belongs_is_the_path")
           .given("data.json", R"({"links":[{"id":1}]})")
-          .call({"--readObjectArrayConcat", "-f", "data.json", "links", "id"})
+          .call("--readObjectArrayConcat -f data.json links id")
           .reports("--read error : Path \"-f\" does not exist\n"),
-      Case("an_option_where_the_path_belongs_is_the_path_of_the_separated_form")
+      ToolCall("an_option_where_the_path_belongs_is_the_path_of_the_separated_form")
           .given("data.json", R"({"links":[{"id":1,"hostname":"h","port":2}]})")
-          .call({"-roacs", "-f", "data.json", "links", "id", "hostname", "port", "/:"})
+          .call("-roacs -f data.json links id hostname port /:")
           .reports("--read error : Path \"-f\" does not exist\n"),
-      Case("the_list_ends_at_the_next_option")
+      ToolCall("the_list_ends_at_the_next_option")
           .given("d.json", kLetters)
-          .call({"-roacs", "l", "a", "b", "/", "-f", "d.json"})
+          .call("-roacs l a b / -f d.json")
           .prints("A/B\n"),
-      Case("a_separator_that_begins_with_a_dash_ends_the_list")
+      ToolCall("a_separator_that_begins_with_a_dash_ends_the_list")
           .given("d.json", kLetters)
-          .call({"-f", "d.json", "-roacs", "l", "a", "b", "-"})
+          .call("-f d.json -roacs l a b -")
           .prints("Error: invalid argument -\n")
           .exits(1),
-      Case("an_empty_separator_argument_ends_the_list_and_is_refused")
+      ToolCall("an_empty_separator_argument_ends_the_list_and_is_refused")
           .given("d.json", kLetters)
           .call({"-f", "d.json", "-roacs", "l", "a", "b", ""})
           .prints("Error: invalid argument \n")
           .exits(1),
-      Case("an_empty_field_argument_ends_the_list_and_is_refused")
+      ToolCall("an_empty_field_argument_ends_the_list_and_is_refused")
           .given("d.json", kLetters)
           .call({"-f", "d.json", "-roac", "l", ""})
           .prints("Error: invalid argument \n")
           .exits(1),
-      Case("a_path_alone_misses_its_fields")
-          .call({"-roac", "l"})
+      ToolCall("a_path_alone_misses_its_fields")
+          .call("-roac l")
           .prints("Error: Error: missing argument(s) after -roac\n")
           .exits(1),
-      Case("a_path_alone_misses_its_fields_in_long_form")
-          .call({"--readObjectArrayConcat", "l"})
+      ToolCall("a_path_alone_misses_its_fields_in_long_form")
+          .call("--readObjectArrayConcat l")
           .prints("Error: Error: missing argument(s) after --readObjectArrayConcat\n")
           .exits(1),
-      Case("a_path_alone_misses_its_separator")
-          .call({"-roacs", "l"})
+      ToolCall("a_path_alone_misses_its_separator")
+          .call("-roacs l")
           .prints("Error: Error: missing argument(s) after -roacs\n")
           .exits(1),
-      Case("a_separator_without_a_field_is_refused")
-          .call({"--readObjectArrayConcatSep", "l", "/"})
+      ToolCall("a_separator_without_a_field_is_refused")
+          .call("--readObjectArrayConcatSep l /")
           .prints("Error: Error: missing argument(s) after --readObjectArrayConcatSep\n")
           .exits(1),
-      Case("a_lone_comma_is_one_empty_piece_and_no_field")
-          .call({"-roacs", "l", ","})
+      ToolCall("a_lone_comma_is_one_empty_piece_and_no_field")
+          .call("-roacs l ,")
           .prints("Error: Error: missing argument(s) after -roacs\n")
           .exits(1),
-      Case("an_option_where_the_fields_belong_leaves_no_separator")
+      ToolCall("an_option_where_the_fields_belong_leaves_no_separator")
           .given("d.json", kLetters)
-          .call({"-roacs", "l", "-f", "d.json"})
+          .call("-roacs l -f d.json")
           .prints("Error: Error: missing argument(s) after -roacs\n")
           .exits(1),
-      Case("an_empty_argument_where_the_fields_belong_leaves_no_separator")
+      ToolCall("an_empty_argument_where_the_fields_belong_leaves_no_separator")
           .call({"-roacs", "l", ""})
           .prints("Error: Error: missing argument(s) after -roacs\n")
           .exits(1),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(ConcatenationLists, ToolCall, testing::ValuesIn(rowsOfLists()), rowName);
+const Table kConcatenationLists("ConcatenationLists", rowsOfLists);
 
 }  // namespace
 }  // namespace kovalt::test

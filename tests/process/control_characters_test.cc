@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -31,42 +31,42 @@ std::string around(const std::string& middle) { return std::string(40, 'x') + mi
 /// The compact text of an object that holds `text`.
 std::string objectOf(const std::string& text) { return R"({"k":")" + text + R"("})"; }
 
-std::vector<Case> writtenRows() {
-  std::vector<Case> rows;
+std::vector<ToolCall> writtenRows() {
+  std::vector<ToolCall> rows;
   for (const Control& control : kControls) {
     const std::string raw = around(std::string(1, control.byte));
     const std::string escaped = around(control.escape);
-    rows.push_back(Case("saved_as_an_escape_" + rowEnd(control))
+    rows.push_back(ToolCall("saved_as_an_escape_" + rowEnd(control))
                        .call({"--file", "f.json", "--addString", "k", raw})
                        .leaves("f.json", "{\n  \"k\": \"" + escaped + "\"\n}"));
-    rows.push_back(Case("displayed_as_an_escape_" + rowEnd(control))
+    rows.push_back(ToolCall("displayed_as_an_escape_" + rowEnd(control))
                        .call({"--addString", "k", raw})
                        .prints("{\n    \"k\": \"" + escaped + "\"\n}\n"));
-    rows.push_back(Case("read_as_an_escape_" + rowEnd(control))
+    rows.push_back(ToolCall("read_as_an_escape_" + rowEnd(control))
                        .call({"--addString", "k", raw, "--read", "k"})
                        .prints(escaped + "\n"));
   }
   return rows;
 }
 
-std::vector<Case> loadedRows() {
-  std::vector<Case> rows;
+std::vector<ToolCall> loadedRows() {
+  std::vector<ToolCall> rows;
   for (const Control& control : kControls) {
-    rows.push_back(Case("refused_as_it_is_" + rowEnd(control))
+    rows.push_back(ToolCall("refused_as_it_is_" + rowEnd(control))
                        .given("f.json", objectOf(around(std::string(1, control.byte))))
                        .call({"--file", "f.json", "--read", ""})
                        .prints("{}\n")
                        .reports("Could not parse json file f.json\n"));
-    rows.push_back(Case("taken_as_an_escape_" + rowEnd(control))
+    rows.push_back(ToolCall("taken_as_an_escape_" + rowEnd(control))
                        .given("f.json", objectOf(around(control.escape)))
-                       .call({"--file", "f.json", "--read", "k"})
+                       .call("--file f.json --read k")
                        .prints(around(control.escape) + "\n"));
   }
   return rows;
 }
 
-INSTANTIATE_TEST_SUITE_P(ControlCharactersWritten, ToolCall, testing::ValuesIn(writtenRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(ControlCharactersLoaded, ToolCall, testing::ValuesIn(loadedRows()), rowName);
+const Table kControlCharactersWritten("ControlCharactersWritten", writtenRows);
+const Table kControlCharactersLoaded("ControlCharactersLoaded", loadedRows);
 
 }  // namespace
 }  // namespace kovalt::test

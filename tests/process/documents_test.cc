@@ -1,6 +1,6 @@
 // Loading, displaying and saving the document of a call.
 
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -8,20 +8,20 @@ namespace {
 using namespace std::string_literals;
 
 /// A file that does not parse stands for an empty object and is left as it is.
-Case unparsable(const std::string& name, const std::string& content) {
-  return Case(name)
+ToolCall unparsable(const std::string& name, const std::string& content) {
+  return ToolCall(name)
       .given("f.json", content)
-      .call({"--file", "f.json"})
+      .call("--file f.json")
       .prints("{}\n")
       .reports("Could not parse json file f.json\n");
 }
 
 /// A file that parses, as its compact text.
-Case parsable(const std::string& name, const std::string& content, const std::string& compact) {
-  return Case(name).given("f.json", content).call({"--file", "f.json", "--read", ""}).prints(compact + "\n");
+ToolCall parsable(const std::string& name, const std::string& content, const std::string& compact) {
+  return ToolCall(name).given("f.json", content).call({"--file", "f.json", "--read", ""}).prints(compact + "\n");
 }
 
-std::vector<Case> unparsableRows() {
+std::vector<ToolCall> unparsableRows() {
   return {
       unparsable("empty_file", ""),
       unparsable("only_whitespace", " \t\r\n"),
@@ -73,7 +73,7 @@ std::vector<Case> unparsableRows() {
   };
 }
 
-std::vector<Case> loadingRows() {
+std::vector<ToolCall> loadingRows() {
   return {
       parsable("all_four_kinds_of_whitespace", " \t\r\n{ \t\r\n\"a\" \t\r\n: \t\r\n1 \t\r\n} \t\r\n", R"({"a":1})"),
       parsable("carriage_returns_and_line_feeds", "{\r\n\"a\": 1,\r\n\"b\": 2\r\n}\r\n", R"({"a":1,"b":2})"),
@@ -89,49 +89,49 @@ std::vector<Case> loadingRows() {
                "[\"" + std::string(20000, 'x') + "\"]"),
       parsable("forty_levels", std::string(40, '[') + std::string(40, ']'),
                std::string(40, '[') + std::string(40, ']')),
-      Case("missing_file_is_silent_and_stays_missing").call({"--file", "none.json"}).prints("{}\n"),
-      Case("missing_file_with_a_read").call({"--file", "none.json", "--read", ""}).prints("{}\n"),
-      Case("file_below_a_file_is_a_missing_file").given("plain", "").call({"--file", "plain/f.json"}).prints("{}\n"),
-      Case("dangling_link_is_a_missing_file")
+      ToolCall("missing_file_is_silent_and_stays_missing").call("--file none.json").prints("{}\n"),
+      ToolCall("missing_file_with_a_read").call({"--file", "none.json", "--read", ""}).prints("{}\n"),
+      ToolCall("file_below_a_file_is_a_missing_file").given("plain", "").call("--file plain/f.json").prints("{}\n"),
+      ToolCall("dangling_link_is_a_missing_file")
           .givenSymbolicLink("f.json", "none.json")
-          .call({"--file", "f.json"})
+          .call("--file f.json")
           .prints("{}\n"),
-      Case("path_is_shown_as_typed")
+      ToolCall("path_is_shown_as_typed")
           .given("f.json", "{")
-          .call({"--file", ".//./f.json"})
+          .call("--file .//./f.json")
           .prints("{}\n")
           .reports("Could not parse json file .//./f.json\n"),
-      Case("short_form_reports_the_same")
+      ToolCall("short_form_reports_the_same")
           .given("f.json", "{")
-          .call({"-f", "f.json"})
+          .call("-f f.json")
           .prints("{}\n")
           .reports("Could not parse json file f.json\n"),
-      Case("directory_is_a_file_that_does_not_parse")
+      ToolCall("directory_is_a_file_that_does_not_parse")
           .givenDirectory("d")
-          .call({"--file", "d"})
+          .call("--file d")
           .prints("{}\n")
           .reports("Could not parse json file d\n"),
-      Case("nothing_is_kept_of_a_file_that_does_not_parse")
+      ToolCall("nothing_is_kept_of_a_file_that_does_not_parse")
           .given("f.json", R"({"a":1,"b":2,})")
-          .call({"--file", "f.json", "--addString", "k", "v"})
+          .call("--file f.json --addString k v")
           .reports("Could not parse json file f.json\n")
           .leaves("f.json", "{\n  \"k\": \"v\"\n}"),
-      Case("failed_load_removal_and_read_keep_the_status")
+      ToolCall("failed_load_removal_and_read_keep_the_status")
           .given("f.json", "{")
-          .call({"--file", "f.json", "--remove", "a", "--read", "b"})
+          .call("--file f.json --remove a --read b")
           .reports("Could not parse json file f.json\n--read error : Path \"b\" does not exist\n"),
   };
 }
 
-std::vector<Case> displayRows() {
+std::vector<ToolCall> displayRows() {
   return {
-      Case("display_indents_by_four_spaces")
+      ToolCall("display_indents_by_four_spaces")
           .given("f.json", R"({"a":[1,2]})")
-          .call({"--file", "f.json"})
+          .call("--file f.json")
           .prints("{\n    \"a\": [\n        1,\n        2\n    ]\n}\n"),
-      Case("display_of_empty_values")
+      ToolCall("display_of_empty_values")
           .given("f.json", R"({"a":{ },"b":[ ],"c":"","d":[{},[]]})")
-          .call({"--file", "f.json"})
+          .call("--file f.json")
           .prints(R"({
     "a": {},
     "b": [],
@@ -142,9 +142,9 @@ std::vector<Case> displayRows() {
     ]
 }
 )"),
-      Case("display_of_nested_values")
+      ToolCall("display_of_nested_values")
           .given("f.json", R"([{"a":null,"b":[true,{"c":false}]},"x"])")
-          .call({"--file", "f.json"})
+          .call("--file f.json")
           .prints(R"([
     {
         "a": null,
@@ -158,32 +158,32 @@ std::vector<Case> displayRows() {
     "x"
 ]
 )"),
-      Case("display_of_an_empty_array").given("f.json", " [\n] ").call({"--file", "f.json"}).prints("[]\n"),
-      Case("display_of_null").given("f.json", "null").call({"--file", "f.json"}).prints("null\n"),
-      Case("display_of_a_string").given("f.json", "\"x y\"").call({"--file", "f.json"}).prints("\"x y\"\n"),
-      Case("displayed_file_keeps_its_bytes")
+      ToolCall("display_of_an_empty_array").given("f.json", " [\n] ").call("--file f.json").prints("[]\n"),
+      ToolCall("display_of_null").given("f.json", "null").call("--file f.json").prints("null\n"),
+      ToolCall("display_of_a_string").given("f.json", "\"x y\"").call("--file f.json").prints("\"x y\"\n"),
+      ToolCall("displayed_file_keeps_its_bytes")
           .given("f.json", "\r\n\t{\"a\" :1.50}\r\n")
-          .call({"--file", "f.json"})
+          .call("--file f.json")
           .prints("{\n    \"a\": 1.5\n}\n"),
-      Case("file_display_of_an_unchanged_file_does_not_save")
+      ToolCall("file_display_of_an_unchanged_file_does_not_save")
           .given("f.json", "{\"a\":1}\n")
-          .call({"--fileDisplay", "f.json"})
+          .call("--fileDisplay f.json")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("display_and_save_differ_in_indentation")
+      ToolCall("display_and_save_differ_in_indentation")
           .given("f.json", R"({"a":[1]})")
-          .call({"--fileDisplay", "f.json", "--addString", "b", "v"})
+          .call("--fileDisplay f.json --addString b v")
           .prints("{\n    \"a\": [\n        1\n    ],\n    \"b\": \"v\"\n}\n")
           .leaves("f.json", "{\n  \"a\": [\n    1\n  ],\n  \"b\": \"v\"\n}"),
   };
 }
 
-std::vector<Case> savingRows() {
+std::vector<ToolCall> savingRows() {
   return {
-      Case("save_indents_by_two_spaces_without_a_final_line_end")
+      ToolCall("save_indents_by_two_spaces_without_a_final_line_end")
           .given("f.json", "[1,2]\n")
           .call({"--file", "f.json", "--addObject", "", "--addArrayNumber", "a", "1", "2"})
           .leaves("f.json", "{\n  \"a\": [\n    1,\n    2\n  ]\n}"),
-      Case("save_of_empty_values")
+      ToolCall("save_of_empty_values")
           .given("f.json", R"({"a":{},"b":[],"c":[{},[]]})")
           .call({"--file", "f.json", "--remove", ""})
           .leaves("f.json", R"({
@@ -194,85 +194,87 @@ std::vector<Case> savingRows() {
     []
   ]
 })"),
-      Case("save_of_an_empty_root").call({"--file", "f.json", "--addObject", ""}).leaves("f.json", "{}"),
-      Case("save_of_an_empty_array_root").call({"--file", "f.json", "--addArray", ""}).leaves("f.json", "[]"),
-      Case("save_of_a_string_root").call({"--file", "f.json", "--addString", "", "x"}).leaves("f.json", "\"x\""),
-      Case("save_of_an_empty_string_root").call({"--file", "f.json", "--addString", "", ""}).leaves("f.json", "\"\""),
-      Case("save_of_a_number_root").call({"--file", "f.json", "--addNumber", "", "-5"}).leaves("f.json", "-5"),
-      Case("save_of_a_floating_number_root")
+      ToolCall("save_of_an_empty_root").call({"--file", "f.json", "--addObject", ""}).leaves("f.json", "{}"),
+      ToolCall("save_of_an_empty_array_root").call({"--file", "f.json", "--addArray", ""}).leaves("f.json", "[]"),
+      ToolCall("save_of_a_string_root").call({"--file", "f.json", "--addString", "", "x"}).leaves("f.json", "\"x\""),
+      ToolCall("save_of_an_empty_string_root")
+          .call({"--file", "f.json", "--addString", "", ""})
+          .leaves("f.json", "\"\""),
+      ToolCall("save_of_a_number_root").call({"--file", "f.json", "--addNumber", "", "-5"}).leaves("f.json", "-5"),
+      ToolCall("save_of_a_floating_number_root")
           .given("f.json", " 1.50\n")
           .call({"--file", "f.json", "--remove", ""})
           .leaves("f.json", "1.5"),
-      Case("save_of_a_true_root").call({"--file", "f.json", "--addBoolean", "", "true"}).leaves("f.json", "true"),
-      Case("save_of_a_false_root").call({"--file", "f.json", "--addBoolean", "", "0"}).leaves("f.json", "false"),
-      Case("save_of_a_null_root")
+      ToolCall("save_of_a_true_root").call({"--file", "f.json", "--addBoolean", "", "true"}).leaves("f.json", "true"),
+      ToolCall("save_of_a_false_root").call({"--file", "f.json", "--addBoolean", "", "0"}).leaves("f.json", "false"),
+      ToolCall("save_of_a_null_root")
           .given("f.json", " null\n")
           .call({"--file", "f.json", "--remove", ""})
           .leaves("f.json", "null"),
-      Case("save_of_a_long_string_root")
+      ToolCall("save_of_a_long_string_root")
           .call({"--file", "f.json", "--addString", "", std::string(70000, 'x')})
           .leaves("f.json", "\"" + std::string(70000, 'x') + "\""),
-      Case("save_of_more_than_a_buffer")
+      ToolCall("save_of_more_than_a_buffer")
           .given("f.json", R"({"a":")" + std::string(140000, 'x') + "\"}")
-          .call({"--file", "f.json", "--addString", "b", "v"})
+          .call("--file f.json --addString b v")
           .leaves("f.json", "{\n  \"a\": \"" + std::string(140000, 'x') + "\",\n  \"b\": \"v\"\n}"),
-      Case("save_truncates_a_longer_file")
+      ToolCall("save_truncates_a_longer_file")
           .given("f.json", "{\"a\":1}" + std::string(500, '\n'))
-          .call({"--file", "f.json", "--remove", "a"})
+          .call("--file f.json --remove a")
           .leaves("f.json", "{}"),
-      Case("save_turns_carriage_returns_into_line_feeds_alone")
+      ToolCall("save_turns_carriage_returns_into_line_feeds_alone")
           .given("f.json", "{\r\n\"a\": 1\r\n}\r\n")
-          .call({"--file", "f.json", "--addString", "b", "v"})
+          .call("--file f.json --addString b v")
           .leaves("f.json", "{\n  \"a\": 1,\n  \"b\": \"v\"\n}"),
-      Case("save_keeps_equal_names")
+      ToolCall("save_keeps_equal_names")
           .given("f.json", R"({"a":1,"a":2})")
           .call({"--file", "f.json", "--remove", ""})
           .leaves("f.json", "{\n  \"a\": 1,\n  \"a\": 2\n}"),
-      Case("save_keeps_the_mode_of_the_file")
+      ToolCall("save_keeps_the_mode_of_the_file")
           .given("f.json", R"({"a":1})", 0600)
-          .call({"--file", "f.json", "--remove", "a"})
+          .call("--file f.json --remove a")
           .leaves("f.json", "{}"),
-      Case("save_goes_through_a_link")
+      ToolCall("save_goes_through_a_link")
           .given("real.json", R"({"a":1})")
           .givenSymbolicLink("f.json", "real.json")
-          .call({"--file", "f.json", "--remove", "a"})
+          .call("--file f.json --remove a")
           .leaves("real.json", "{}"),
-      Case("save_creates_a_missing_file_silently")
-          .call({"--file", "f.json", "--addString", "k", "v"})
+      ToolCall("save_creates_a_missing_file_silently")
+          .call("--file f.json --addString k v")
           .leaves("f.json", "{\n  \"k\": \"v\"\n}"),
-      Case("missing_folder_fails_the_save")
-          .call({"--file", "./no/f.json", "--addString", "k", "v"})
+      ToolCall("missing_folder_fails_the_save")
+          .call("--file ./no/f.json --addString k v")
           .reports("Could not write document: ./no/f.json\n")
           .exits(1),
-      Case("failed_save_comes_after_the_display_and_before_the_reads")
-          .call({"--fileDisplay", "no/f.json", "--addString", "k", "v", "--read", "k"})
+      ToolCall("failed_save_comes_after_the_display_and_before_the_reads")
+          .call("--fileDisplay no/f.json --addString k v --read k")
           .prints("{\n    \"k\": \"v\"\n}\nv\n")
           .reports("Could not write document: no/f.json\n")
           .exits(1),
-      Case("directory_fails_the_save")
+      ToolCall("directory_fails_the_save")
           .givenDirectory("d")
-          .call({"--file", "d", "--addString", "k", "v"})
+          .call("--file d --addString k v")
           .reports("Could not parse json file d\nCould not write document: d\n")
           .exits(1),
-      Case("read_only_file_fails_the_save")
+      ToolCall("read_only_file_fails_the_save")
           .given("f.json", "{}", 0444)
           .withoutPrivileges()
-          .call({"--file", "f.json", "--addString", "k", "v"})
+          .call("--file f.json --addString k v")
           .reports("Could not write document: f.json\n")
           .exits(1),
-      Case("null_device_is_an_empty_file_that_can_be_saved")
-          .call({"--file", "/dev/null", "--addString", "k", "v"})
+      ToolCall("null_device_is_an_empty_file_that_can_be_saved")
+          .call("--file /dev/null --addString k v")
           .reports("Could not parse json file /dev/null\n"),
-      Case("write_error_after_opening_is_a_success")
-          .call({"--file", "/dev/full", "--addString", "k", "v"})
+      ToolCall("write_error_after_opening_is_a_success")
+          .call("--file /dev/full --addString k v")
           .reports("Could not parse json file /dev/full\n"),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(UnparsableDocuments, ToolCall, testing::ValuesIn(unparsableRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(DocumentLoading, ToolCall, testing::ValuesIn(loadingRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(DocumentDisplay, ToolCall, testing::ValuesIn(displayRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(DocumentSaving, ToolCall, testing::ValuesIn(savingRows()), rowName);
+const Table kUnparsableDocuments("UnparsableDocuments", unparsableRows);
+const Table kDocumentLoading("DocumentLoading", loadingRows);
+const Table kDocumentDisplay("DocumentDisplay", displayRows);
+const Table kDocumentSaving("DocumentSaving", savingRows);
 
 }  // namespace
 }  // namespace kovalt::test

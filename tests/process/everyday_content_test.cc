@@ -1,4 +1,4 @@
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -15,20 +15,20 @@ std::string shownMember(const std::string& name) { return "{\n    \"" + name + "
 std::string shownText(const std::string& text) { return "{\n    \"k\": \"" + text + "\"\n}\n"; }
 
 /// A file with `content` that loads as {"a": 1}, and that an edit rewrites.
-Case loaded(const std::string& name, const std::string& content) {
-  return Case(name).given("conf.json", content).call({"-f", "conf.json", "-as", "k", "v"}).leaves("conf.json", kAdded);
+ToolCall loaded(const std::string& name, const std::string& content) {
+  return ToolCall(name).given("conf.json", content).call("-f conf.json -as k v").leaves("conf.json", kAdded);
 }
 
 /// A file with `content` that does not load.
-Case broken(const std::string& name, const std::string& content) {
-  return Case(name)
+ToolCall broken(const std::string& name, const std::string& content) {
+  return ToolCall(name)
       .given("conf.json", content)
-      .call({"-f", "conf.json"})
+      .call("-f conf.json")
       .prints("{}\n")
       .reports("Could not parse json file conf.json\n");
 }
 
-std::vector<Case> files() {
+std::vector<ToolCall> files() {
   return {
       loaded("no_line_end", R"({"a":1})"),
       loaded("one_line_end", "{\"a\":1}\n"),
@@ -37,19 +37,19 @@ std::vector<Case> files() {
       loaded("carriage_returns_alone", "{\r  \"a\": 1\r}\r"),
       loaded("tabs", "{\n\t\"a\":\t1\n}\n"),
       loaded("own_form_again", "{\n  \"a\": 1\n}"),
-      Case("carriage_returns_are_displayed_without")
+      ToolCall("carriage_returns_are_displayed_without")
           .given("conf.json", "{\r\n  \"a\": 1\r\n}\r\n")
-          .call({"-fd", "conf.json"})
+          .call("-fd conf.json")
           .prints("{\n    \"a\": 1\n}\n"),
       broken("byte_order_mark", "\xef\xbb\xbf{\"a\":1}"),
-      Case("byte_order_mark_and_an_edit")
+      ToolCall("byte_order_mark_and_an_edit")
           .given("conf.json", "\xef\xbb\xbf{\"a\":1}")
-          .call({"-f", "conf.json", "-an", "a", "1", "-as", "k", "v"})
+          .call("-f conf.json -an a 1 -as k v")
           .reports("Could not parse json file conf.json\n")
           .leaves("conf.json", kAdded),
-      Case("byte_order_mark_in_a_file_to_merge")
+      ToolCall("byte_order_mark_in_a_file_to_merge")
           .given("more.json", "\xef\xbb\xbf{\"a\":1}")
-          .call({"-af", "more.json"})
+          .call("-af more.json")
           .prints("{}\n")
           .reports("Could not parse json file more.json\n"),
       broken("utf_16", std::string("\xff\xfe{\0}\0", 6)),
@@ -66,55 +66,55 @@ std::vector<Case> files() {
       broken("not_json_at_all", "a = 1\n"),
 
       // What an edit must not change.
-      Case("order_of_members")
+      ToolCall("order_of_members")
           .given("conf.json", R"({"z":1,"a":2,"m":3})")
-          .call({"-f", "conf.json", "-an", "a", "4", "-an", "b", "5"})
+          .call("-f conf.json -an a 4 -an b 5")
           .leaves("conf.json", R"({
   "z": 1,
   "a": 4,
   "m": 3,
   "b": 5
 })"),
-      Case("members_of_the_same_name")
+      ToolCall("members_of_the_same_name")
           .given("conf.json", R"({"a":1,"a":2})")
-          .call({"-f", "conf.json", "-an", "a", "3", "-r", "a"})
+          .call("-f conf.json -an a 3 -r a")
           .prints("3\n")
           .leaves("conf.json", R"({
   "a": 3,
   "a": 2
 })"),
-      Case("integers_of_64_bits")
+      ToolCall("integers_of_64_bits")
           .given("conf.json", R"({"min":-9223372036854775808,"max":9223372036854775807,"most":18446744073709551615})")
-          .call({"-f", "conf.json", "-as", "k", "v"})
+          .call("-f conf.json -as k v")
           .leaves("conf.json", R"({
   "min": -9223372036854775808,
   "max": 9223372036854775807,
   "most": 18446744073709551615,
   "k": "v"
 })"),
-      Case("integers_of_32_bits_and_one_more")
+      ToolCall("integers_of_32_bits_and_one_more")
           .given("conf.json", R"([-2147483648,-2147483649,2147483647,2147483648,4294967295,4294967296])")
           .call({"-f", "conf.json", "-r", ""})
           .prints("[-2147483648,-2147483649,2147483647,2147483648,4294967295,4294967296]\n"),
-      Case("integer_of_64_bits_read")
+      ToolCall("integer_of_64_bits_read")
           .given("conf.json", R"({"a":-9223372036854775808})")
-          .call({"-f", "conf.json", "-r", "a"})
+          .call("-f conf.json -r a")
           .prints("-9223372036854775808\n"),
-      Case("integers_of_64_bits_merged")
+      ToolCall("integers_of_64_bits_merged")
           .given("more.json", R"({"min":-9223372036854775808,"most":18446744073709551615})")
-          .call({"-af", "more.json"})
+          .call("-af more.json")
           .prints(R"({
     "min": -9223372036854775808,
     "most": 18446744073709551615
 }
 )"),
-      Case("floating_point_numbers")
+      ToolCall("floating_point_numbers")
           .given("conf.json", R"([1.50,3.0,-0.0,0.1,-2.25])")
           .call({"-f", "conf.json", "-r", ""})
           .prints("[1.5,3.0,-0.0,0.1,-2.25]\n"),
-      Case("empty_containers_and_words")
+      ToolCall("empty_containers_and_words")
           .given("conf.json", R"({"o":{ },"l":[ ],"t":true,"f":false,"n":null,"s":""})")
-          .call({"-f", "conf.json", "-rm", "s"})
+          .call("-f conf.json -rm s")
           .leaves("conf.json", R"({
   "o": {},
   "l": [],
@@ -122,95 +122,95 @@ std::vector<Case> files() {
   "f": false,
   "n": null
 })"),
-      Case("text_beyond_ascii")
+      ToolCall("text_beyond_ascii")
           .given("conf.json", R"({"größe":"日本 😀"})")
-          .call({"-f", "conf.json", "-as", "k", "v"})
+          .call("-f conf.json -as k v")
           .leaves("conf.json", R"({
   "größe": "日本 😀",
   "k": "v"
 })"),
-      Case("escapes_of_readable_characters_are_resolved")
+      ToolCall("escapes_of_readable_characters_are_resolved")
           .given("conf.json", R"({"k":"\u00e9\/\u0041\ud83d\ude00"})")
-          .call({"-f", "conf.json"})
+          .call("-f conf.json")
           .prints(shownText("é/A😀")),
-      Case("escapes_that_are_needed_stay")
+      ToolCall("escapes_that_are_needed_stay")
           .given("conf.json", R"({"k":"\"\\\b\f\n\r\t\u0000\u0001"})")
-          .call({"-f", "conf.json"})
+          .call("-f conf.json")
           .prints(shownText(R"(\"\\\b\f\n\r\t\u0000\u0001)")),
-      Case("bytes_that_are_no_utf_8")
+      ToolCall("bytes_that_are_no_utf_8")
           .given("conf.json", "{\"k\":\"\xff\xc3\"}")
-          .call({"-f", "conf.json"})
+          .call("-f conf.json")
           .prints(shownText("\xff\xc3")),
-      Case("escape_of_nul_in_a_member_name")
+      ToolCall("escape_of_nul_in_a_member_name")
           .given("conf.json", R"({"a\u0000b":1})")
-          .call({"-f", "conf.json", "-an", "a", "2"})
+          .call("-f conf.json -an a 2")
           .leaves("conf.json", R"({
   "a\u0000b": 1,
   "a": 2
 })"),
 
       // Sizes around and beyond the buffers.
-      Case("file_of_a_whole_read_buffer")
+      ToolCall("file_of_a_whole_read_buffer")
           .given("conf.json", R"({"k":")" + std::string(8184, 'x') + R"("})")
-          .call({"-f", "conf.json", "-r", "k"})
+          .call("-f conf.json -r k")
           .prints(std::string(8184, 'x') + "\n"),
-      Case("file_of_a_read_buffer_and_one_byte")
+      ToolCall("file_of_a_read_buffer_and_one_byte")
           .given("conf.json", R"({"k":")" + std::string(8185, 'x') + R"("})")
-          .call({"-f", "conf.json", "-r", "k"})
+          .call("-f conf.json -r k")
           .prints(std::string(8185, 'x') + "\n"),
-      Case("blanks_beyond_the_read_buffer")
+      ToolCall("blanks_beyond_the_read_buffer")
           .given("conf.json", std::string(20000, ' ') + R"({"k":"v"})" + std::string(20000, '\n'))
-          .call({"-f", "conf.json", "-r", "k"})
+          .call("-f conf.json -r k")
           .prints("v\n"),
-      Case("saved_file_of_a_whole_write_buffer")
+      ToolCall("saved_file_of_a_whole_write_buffer")
           .call({"-f", "conf.json", "-as", "k", std::string(65523, 'x')})
           .leaves("conf.json", "{\n  \"k\": \"" + std::string(65523, 'x') + "\"\n}"),
-      Case("saved_file_of_a_write_buffer_and_one_byte")
+      ToolCall("saved_file_of_a_write_buffer_and_one_byte")
           .call({"-f", "conf.json", "-as", "k", std::string(65524, 'x')})
           .leaves("conf.json", "{\n  \"k\": \"" + std::string(65524, 'x') + "\"\n}"),
-      Case("text_longer_than_every_buffer")
+      ToolCall("text_longer_than_every_buffer")
           .given("conf.json", R"({"k":")" + std::string(200000, 'x') + R"("})")
-          .call({"-fd", "conf.json", "-as", "l", "v"})
+          .call("-fd conf.json -as l v")
           .prints("{\n    \"k\": \"" + std::string(200000, 'x') + "\",\n    \"l\": \"v\"\n}\n")
           .leaves("conf.json", "{\n  \"k\": \"" + std::string(200000, 'x') + "\",\n  \"l\": \"v\"\n}"),
-      Case("nesting_of_a_thousand_arrays")
+      ToolCall("nesting_of_a_thousand_arrays")
           .given("conf.json", std::string(1000, '[') + std::string(1000, ']'))
           .call({"-f", "conf.json", "-r", ""})
           .prints(std::string(1000, '[') + std::string(1000, ']') + "\n"),
   };
 }
 
-std::vector<Case> arguments() {
+std::vector<ToolCall> arguments() {
   return {
-      Case("member_with_a_blank").call({"-as", "my key", "v"}).prints(shownMember("my key")),
-      Case("member_of_one_blank").call({"-as", " ", "v"}).prints(shownMember(" ")),
-      Case("member_with_dashes").call({"-as", "max-age--s", "v"}).prints(shownMember("max-age--s")),
-      Case("member_with_an_at_sign").call({"-as", "@type", "v"}).prints(shownMember("@type")),
-      Case("member_with_slashes").call({"-as", "/usr/bin", "v"}).prints(shownMember("/usr/bin")),
-      Case("member_with_percents").call({"-as", "100%s", "v"}).prints(shownMember("100%s")),
-      Case("member_with_brackets").call({"-as", "a[0]", "v"}).prints(shownMember("a[0]")),
-      Case("member_of_digits").call({"-as", "0", "v"}).prints(shownMember("0")),
-      Case("member_with_a_quote").call({"-as", "a\"b", "v"}).prints(shownMember(R"(a\"b)")),
-      Case("member_with_a_backslash").call({"-as", "a\\b", "v"}).prints(shownMember(R"(a\\b)")),
-      Case("member_with_a_tab").call({"-as", "a\tb", "v"}).prints(shownMember(R"(a\tb)")),
-      Case("member_beyond_ascii").call({"-as", "größe", "v"}).prints(shownMember("größe")),
-      Case("member_of_a_face").call({"-as", "😀", "v"}).prints(shownMember("😀")),
-      Case("member_that_is_no_utf_8").call({"-as", "\xff", "v"}).prints(shownMember("\xff")),
-      Case("member_of_great_length")
+      ToolCall("member_with_a_blank").call({"-as", "my key", "v"}).prints(shownMember("my key")),
+      ToolCall("member_of_one_blank").call({"-as", " ", "v"}).prints(shownMember(" ")),
+      ToolCall("member_with_dashes").call("-as max-age--s v").prints(shownMember("max-age--s")),
+      ToolCall("member_with_an_at_sign").call("-as @type v").prints(shownMember("@type")),
+      ToolCall("member_with_slashes").call("-as /usr/bin v").prints(shownMember("/usr/bin")),
+      ToolCall("member_with_percents").call("-as 100%s v").prints(shownMember("100%s")),
+      ToolCall("member_with_brackets").call("-as a[0] v").prints(shownMember("a[0]")),
+      ToolCall("member_of_digits").call("-as 0 v").prints(shownMember("0")),
+      ToolCall("member_with_a_quote").call("-as a\"b v").prints(shownMember(R"(a\"b)")),
+      ToolCall("member_with_a_backslash").call("-as a\\b v").prints(shownMember(R"(a\\b)")),
+      ToolCall("member_with_a_tab").call("-as a\tb v").prints(shownMember(R"(a\tb)")),
+      ToolCall("member_beyond_ascii").call("-as größe v").prints(shownMember("größe")),
+      ToolCall("member_of_a_face").call("-as 😀 v").prints(shownMember("😀")),
+      ToolCall("member_that_is_no_utf_8").call("-as \xff v").prints(shownMember("\xff")),
+      ToolCall("member_of_great_length")
           .call({"-as", std::string(100000, 'x'), "v"})
           .prints(shownMember(std::string(100000, 'x'))),
-      Case("member_names_differ_by_case").call({"-as", "a", "v", "-as", "A", "w"}).prints(R"({
+      ToolCall("member_names_differ_by_case").call("-as a v -as A w").prints(R"({
     "a": "v",
     "A": "w"
 }
 )"),
-      Case("nested_members_with_blanks").call({"-as", "my conf.my key", "v"}).prints(R"({
+      ToolCall("nested_members_with_blanks").call({"-as", "my conf.my key", "v"}).prints(R"({
     "my conf": {
         "my key": "v"
     }
 }
 )"),
-      Case("odd_members_read")
+      ToolCall("odd_members_read")
           .given("conf.json", R"({"my key":"1","@type":"2","größe":"3","a-b":"4"})")
           .call({"-f", "conf.json", "-r", "my key", "-r", "@type", "-r", "größe", "-r", "a-b"})
           .prints(R"({
@@ -220,44 +220,44 @@ std::vector<Case> arguments() {
     "a-b": "4"
 }
 )"),
-      Case("escaped_member_read_by_its_plain_name")
+      ToolCall("escaped_member_read_by_its_plain_name")
           .given("conf.json", R"({"gr\u00f6\u00dfe":"v"})")
-          .call({"-f", "conf.json", "-r", "größe"})
+          .call("-f conf.json -r größe")
           .prints("v\n"),
-      Case("odd_members_removed")
+      ToolCall("odd_members_removed")
           .given("conf.json", R"({"k":"v","größe":"3","@type":"2","my key":"1"})")
           .call({"-f", "conf.json", "-rm", "my key", "-rm", "@type", "-rm", "größe"})
           .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
-      Case("odd_members_saved")
+      ToolCall("odd_members_saved")
           .call({"-f", "conf.json", "-as", "@größe 100%", "v"})
           .leaves("conf.json", "{\n  \"@größe 100%\": \"v\"\n}"),
-      Case("missing_odd_member_in_a_message")
+      ToolCall("missing_odd_member_in_a_message")
           .call({"-r", "my \"größe\" 100%s"})
           .reports("--read error : Path \"my \"größe\" 100%s\" does not exist\n"),
 
-      Case("value_with_blanks").call({"-as", "k", "  a  b  "}).prints(shownText("  a  b  ")),
-      Case("value_with_quotes").call({"-as", "k", R"(say "hi")"}).prints(shownText(R"(say \"hi\")")),
-      Case("value_with_backslashes").call({"-as", "k", R"(C:\new)"}).prints(shownText(R"(C:\\new)")),
-      Case("value_with_slashes").call({"-as", "k", "http://a/b"}).prints(shownText("http://a/b")),
-      Case("value_with_percents").call({"-as", "k", "100%d%s%n"}).prints(shownText("100%d%s%n")),
-      Case("value_with_a_comma").call({"-as", "k", "a,b"}).prints(shownText("a,b")),
-      Case("value_with_a_line_end").call({"-as", "k", "a\nb"}).prints(shownText(R"(a\nb)")),
-      Case("value_with_control_characters")
-          .call({"-as", "k", "\x01\x1f\x7f\b\f\r\t"})
+      ToolCall("value_with_blanks").call({"-as", "k", "  a  b  "}).prints(shownText("  a  b  ")),
+      ToolCall("value_with_quotes").call({"-as", "k", R"(say "hi")"}).prints(shownText(R"(say \"hi\")")),
+      ToolCall("value_with_backslashes").call({"-as", "k", R"(C:\new)"}).prints(shownText(R"(C:\\new)")),
+      ToolCall("value_with_slashes").call("-as k http://a/b").prints(shownText("http://a/b")),
+      ToolCall("value_with_percents").call("-as k 100%d%s%n").prints(shownText("100%d%s%n")),
+      ToolCall("value_with_a_comma").call("-as k a,b").prints(shownText("a,b")),
+      ToolCall("value_with_a_line_end").call("-as k a\nb").prints(shownText(R"(a\nb)")),
+      ToolCall("value_with_control_characters")
+          .call("-as k \x01\x1f\x7f\b\f\r\t")
           .prints(shownText("\\u0001\\u001F\x7f\\b\\f\\r\\t")),
-      Case("value_beyond_ascii").call({"-as", "k", "größe 日本 😀"}).prints(shownText("größe 日本 😀")),
-      Case("value_that_is_no_utf_8").call({"-as", "k", "\xff\xc3"}).prints(shownText("\xff\xc3")),
-      Case("value_that_looks_like_a_number").call({"-as", "k", "5"}).prints(shownText("5")),
-      Case("value_that_looks_like_null").call({"-as", "k", "null"}).prints(shownText("null")),
-      Case("value_that_looks_like_json").call({"-as", "k", R"({"a":1})"}).prints(shownText(R"({\"a\":1})")),
-      Case("value_of_great_length")
+      ToolCall("value_beyond_ascii").call({"-as", "k", "größe 日本 😀"}).prints(shownText("größe 日本 😀")),
+      ToolCall("value_that_is_no_utf_8").call("-as k \xff\xc3").prints(shownText("\xff\xc3")),
+      ToolCall("value_that_looks_like_a_number").call("-as k 5").prints(shownText("5")),
+      ToolCall("value_that_looks_like_null").call("-as k null").prints(shownText("null")),
+      ToolCall("value_that_looks_like_json").call({"-as", "k", R"({"a":1})"}).prints(shownText(R"({\"a\":1})")),
+      ToolCall("value_of_great_length")
           .call({"-as", "k", std::string(100000, 'x'), "-r", "k"})
           .prints(std::string(100000, 'x') + "\n"),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(EverydayFileContent, ToolCall, testing::ValuesIn(files()), rowName);
-INSTANTIATE_TEST_SUITE_P(EverydayArguments, ToolCall, testing::ValuesIn(arguments()), rowName);
+const Table kEverydayFileContent("EverydayFileContent", files);
+const Table kEverydayArguments("EverydayArguments", arguments);
 
 }  // namespace
 }  // namespace kovalt::test

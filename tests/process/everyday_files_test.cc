@@ -1,4 +1,4 @@
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -17,19 +17,19 @@ constexpr const char* kShown = R"({
 )";
 
 /// An edit of the file `path`, which is there already.
-Case edited(const std::string& name, const std::string& path) {
-  return Case(name).given(path, kBefore).call({"--file", path, "-as", "k", "v"}).leaves(path, kAfter);
+ToolCall edited(const std::string& name, const std::string& path) {
+  return ToolCall(name).given(path, kBefore).call({"--file", path, "-as", "k", "v"}).leaves(path, kAfter);
 }
 
 /// An edit of the file `path`, which can be neither read nor written.
-Case unwritable(const std::string& name, const std::string& path) {
-  return Case(name)
+ToolCall unwritable(const std::string& name, const std::string& path) {
+  return ToolCall(name)
       .call({"--file", path, "-as", "k", "v"})
       .reports("Could not write document: " + path + "\n")
       .exits(1);
 }
 
-std::vector<Case> names() {
+std::vector<ToolCall> names() {
   return {
       edited("name_with_a_blank", "my file.json"),
       edited("name_of_one_blank", " "),
@@ -54,21 +54,21 @@ std::vector<Case> names() {
       edited("name_of_the_longest_length", std::string(255, 'n')),
 
       // Messages show the name as it was typed.
-      Case("broken_file_with_blanks_and_percents")
+      ToolCall("broken_file_with_blanks_and_percents")
           .given("my 100%s file.json", "{")
           .call({"-f", "my 100%s file.json"})
           .prints("{}\n")
           .reports("Could not parse json file my 100%s file.json\n"),
-      Case("broken_file_with_a_quote_and_a_backslash")
+      ToolCall("broken_file_with_a_quote_and_a_backslash")
           .given("a\"b\\c.json", "{")
-          .call({"-f", "a\"b\\c.json"})
+          .call("-f a\"b\\c.json")
           .prints("{}\n")
           .reports("Could not parse json file a\"b\\c.json\n"),
-      Case("missing_file_to_merge_beyond_ascii")
-          .call({"-af", "größe.json"})
+      ToolCall("missing_file_to_merge_beyond_ascii")
+          .call("-af größe.json")
           .prints("{}\n")
           .reports("Could not open document: größe.json\n"),
-      Case("missing_file_to_merge_with_dots_in_its_path")
+      ToolCall("missing_file_to_merge_with_dots_in_its_path")
           .call({"-af", "./../no such/conf.json"})
           .prints("{}\n")
           .reports("Could not open document: ./../no such/conf.json\n"),
@@ -79,140 +79,137 @@ std::vector<Case> names() {
   };
 }
 
-std::vector<Case> paths() {
+std::vector<ToolCall> paths() {
   return {
-      Case("relative_path")
-          .given("conf.json", kBefore)
-          .call({"-f", "./conf.json", "-as", "k", "v"})
-          .leaves("conf.json", kAfter),
-      Case("path_with_a_sub_folder")
+      ToolCall("relative_path").given("conf.json", kBefore).call("-f ./conf.json -as k v").leaves("conf.json", kAfter),
+      ToolCall("path_with_a_sub_folder")
           .givenDirectory("sub")
           .given("sub/conf.json", kBefore)
-          .call({"-f", "sub/conf.json", "-as", "k", "v"})
+          .call("-f sub/conf.json -as k v")
           .leaves("sub/conf.json", kAfter),
-      Case("path_with_two_sub_folders")
+      ToolCall("path_with_two_sub_folders")
           .givenDirectory("sub")
           .givenDirectory("sub/deeper one")
           .given("sub/deeper one/conf.json", kBefore)
           .call({"-f", "sub/deeper one/conf.json", "-as", "k", "v"})
           .leaves("sub/deeper one/conf.json", kAfter),
-      Case("path_up_and_down")
+      ToolCall("path_up_and_down")
           .givenDirectory("sub")
           .given("conf.json", kBefore)
-          .call({"-f", "sub/../conf.json", "-as", "k", "v"})
+          .call("-f sub/../conf.json -as k v")
           .leaves("conf.json", kAfter),
-      Case("path_with_two_slashes")
+      ToolCall("path_with_two_slashes")
           .givenDirectory("sub")
           .given("sub/conf.json", kBefore)
-          .call({"-f", "sub//conf.json", "-as", "k", "v"})
+          .call("-f sub//conf.json -as k v")
           .leaves("sub/conf.json", kAfter),
-      Case("new_file_in_a_sub_folder")
+      ToolCall("new_file_in_a_sub_folder")
           .givenDirectory("sub")
-          .call({"-f", "sub/conf.json", "-as", "k", "v"})
+          .call("-f sub/conf.json -as k v")
           .leaves("sub/conf.json", kCreated),
-      Case("file_to_merge_in_a_sub_folder")
+      ToolCall("file_to_merge_in_a_sub_folder")
           .givenDirectory("sub")
           .given("sub/more.json", kBefore)
-          .call({"-af", "sub/more.json"})
+          .call("-af sub/more.json")
           .prints(kShown),
       unwritable("missing_folder", "no/such/conf.json"),
       unwritable("missing_folder_from_the_root", "/kovalt-no-such-folder/conf.json"),
-      Case("missing_folder_is_shown_as_empty").call({"-f", "/kovalt-no-such-folder/conf.json"}).prints("{}\n"),
-      Case("file_in_place_of_a_folder")
+      ToolCall("missing_folder_is_shown_as_empty").call("-f /kovalt-no-such-folder/conf.json").prints("{}\n"),
+      ToolCall("file_in_place_of_a_folder")
           .given("conf.json", kBefore)
-          .call({"-f", "conf.json/conf.json", "-as", "k", "v"})
+          .call("-f conf.json/conf.json -as k v")
           .reports("Could not write document: conf.json/conf.json\n")
           .exits(1),
-      Case("file_with_a_trailing_slash")
+      ToolCall("file_with_a_trailing_slash")
           .given("conf.json", kBefore)
-          .call({"-f", "conf.json/", "-as", "k", "v"})
+          .call("-f conf.json/ -as k v")
           .reports("Could not write document: conf.json/\n")
           .exits(1),
 
       // A folder can be opened and not read, and so does not parse.
-      Case("folder_as_the_file")
+      ToolCall("folder_as_the_file")
           .givenDirectory("sub")
-          .call({"--file", "sub"})
+          .call("--file sub")
           .prints("{}\n")
           .reports("Could not parse json file sub\n"),
-      Case("folder_as_the_file_to_save")
+      ToolCall("folder_as_the_file_to_save")
           .givenDirectory("sub")
-          .call({"--file", "sub", "-as", "k", "v"})
+          .call("--file sub -as k v")
           .reports("Could not parse json file sub\nCould not write document: sub\n")
           .exits(1),
-      Case("folder_as_the_file_to_display_and_save")
+      ToolCall("folder_as_the_file_to_display_and_save")
           .givenDirectory("sub")
-          .call({"--fileDisplay", "sub", "-as", "k", "v"})
+          .call("--fileDisplay sub -as k v")
           .prints("{\n    \"k\": \"v\"\n}\n")
           .reports("Could not parse json file sub\nCould not write document: sub\n")
           .exits(1),
-      Case("folder_of_the_call_as_the_file")
-          .call({"-f", ".", "-as", "k", "v"})
+      ToolCall("folder_of_the_call_as_the_file")
+          .call("-f . -as k v")
           .reports("Could not parse json file .\nCould not write document: .\n")
           .exits(1),
-      Case("folder_as_the_file_to_merge")
+      ToolCall("folder_as_the_file_to_merge")
           .givenDirectory("sub")
-          .call({"--addFile", "sub"})
+          .call("--addFile sub")
           .prints("{}\n")
           .reports("Could not parse json file sub\n"),
-      Case("folder_as_the_file_to_merge_at_a_key")
+      ToolCall("folder_as_the_file_to_merge_at_a_key")
           .givenDirectory("sub")
-          .call({"--addFileAt", "k", "sub"})
+          .call("--addFileAt k sub")
           .prints("{\n    \"k\": {}\n}\n")
           .reports("Could not parse json file sub\n"),
-      Case("empty_path_as_the_file_to_merge")
+      ToolCall("empty_path_as_the_file_to_merge")
           .call({"--addFile", ""})
           .prints("{}\n")
           .reports("Could not open document: \n"),
 
       // A symbolic link stays one; its target is rewritten.
-      Case("link_to_a_file")
+      ToolCall("link_to_a_file")
           .given("real.json", kBefore)
           .givenSymbolicLink("link.json", "real.json")
-          .call({"-f", "link.json", "-as", "k", "v"})
+          .call("-f link.json -as k v")
           .leaves("real.json", kAfter),
-      Case("link_to_a_file_in_a_folder")
+      ToolCall("link_to_a_file_in_a_folder")
           .givenDirectory("sub")
           .given("sub/real.json", kBefore)
           .givenSymbolicLink("link.json", "sub/real.json")
-          .call({"-fd", "link.json"})
+          .call("-fd link.json")
           .prints(kShown),
-      Case("link_to_a_link")
+      ToolCall("link_to_a_link")
           .given("real.json", kBefore)
           .givenSymbolicLink("second.json", "real.json")
           .givenSymbolicLink("first.json", "second.json")
-          .call({"-f", "first.json", "-as", "k", "v"})
+          .call("-f first.json -as k v")
           .leaves("real.json", kAfter),
-      Case("link_to_a_folder")
+      ToolCall("link_to_a_folder")
           .givenDirectory("sub")
           .given("sub/conf.json", kBefore)
           .givenSymbolicLink("link", "sub")
-          .call({"-f", "link/conf.json", "-as", "k", "v"})
+          .call("-f link/conf.json -as k v")
           .leaves("sub/conf.json", kAfter),
-      Case("link_to_a_missing_file_makes_its_target")
+      ToolCall("link_to_a_missing_file_makes_its_target")
           .givenSymbolicLink("link.json", "real.json")
-          .call({"-f", "link.json", "-as", "k", "v"})
+          .call("-f link.json -as k v")
           .leaves("real.json", kCreated),
-      Case("link_to_itself")
+      ToolCall("link_to_itself")
           .givenSymbolicLink("link.json", "link.json")
-          .call({"-f", "link.json", "-as", "k", "v"})
+          .call("-f link.json -as k v")
           .reports("Could not write document: link.json\n")
           .exits(1),
-      Case("link_as_the_file_to_merge")
+      ToolCall("link_as_the_file_to_merge")
           .given("real.json", kBefore)
           .givenSymbolicLink("link.json", "real.json")
-          .call({"-af", "link.json"})
+          .call("-af link.json")
           .prints(kShown),
-      Case("broken_link_as_the_file_to_merge")
+      ToolCall("broken_link_as_the_file_to_merge")
           .givenSymbolicLink("link.json", "real.json")
-          .call({"-af", "link.json"})
+          .call("-af link.json")
           .prints("{}\n")
           .reports("Could not open document: link.json\n"),
 
       // One file in two parts.
-      Case("file_merged_into_itself")
+      ToolCall("file_merged_into_itself")
           .given("conf.json", R"({"a":1,"l":[1]})")
-          .call({"-f", "conf.json", "-af", "conf.json"})
+          .call("-f conf.json -af conf.json")
           .leaves("conf.json", R"({
   "a": 1,
   "l": [
@@ -220,18 +217,18 @@ std::vector<Case> paths() {
     1
   ]
 })"),
-      Case("file_merged_into_itself_at_a_key")
+      ToolCall("file_merged_into_itself_at_a_key")
           .given("conf.json", kBefore)
-          .call({"-f", "conf.json", "-afat", "copy", "conf.json"})
+          .call("-f conf.json -afat copy conf.json")
           .leaves("conf.json", R"({
   "a": 1,
   "copy": {
     "a": 1
   }
 })"),
-      Case("same_file_merged_twice")
+      ToolCall("same_file_merged_twice")
           .given("more.json", R"({"a":1,"l":[1]})")
-          .call({"-af", "more.json", "-af", "./more.json"})
+          .call("-af more.json -af ./more.json")
           .prints(R"({
     "a": 1,
     "l": [
@@ -242,104 +239,104 @@ std::vector<Case> paths() {
 )"),
 
       // Devices.
-      Case("null_device_as_the_file")
+      ToolCall("null_device_as_the_file")
           .withoutPrivileges()
-          .call({"-f", "/dev/null", "-as", "k", "v"})
+          .call("-f /dev/null -as k v")
           .reports("Could not parse json file /dev/null\n"),
-      Case("full_device_as_the_file_counts_as_saved")
+      ToolCall("full_device_as_the_file_counts_as_saved")
           .withoutPrivileges()
-          .call({"-f", "/dev/full", "-as", "k", "v"})
+          .call("-f /dev/full -as k v")
           .reports("Could not parse json file /dev/full\n"),
   };
 }
 
-std::vector<Case> modes() {
+std::vector<ToolCall> modes() {
   return {
-      Case("mode_of_a_private_file_is_kept")
+      ToolCall("mode_of_a_private_file_is_kept")
           .given("conf.json", kBefore, 0600)
-          .call({"-f", "conf.json", "-as", "k", "v"})
+          .call("-f conf.json -as k v")
           .leaves("conf.json", kAfter),
-      Case("mode_of_an_executable_file_is_kept")
+      ToolCall("mode_of_an_executable_file_is_kept")
           .given("conf.json", kBefore, 0755)
-          .call({"-f", "conf.json", "-as", "k", "v"})
+          .call("-f conf.json -as k v")
           .leaves("conf.json", kAfter),
-      Case("read_only_file_is_read")
+      ToolCall("read_only_file_is_read")
           .withoutPrivileges()
           .given("conf.json", kBefore, 0444)
-          .call({"-f", "conf.json", "-r", "a"})
+          .call("-f conf.json -r a")
           .prints("1\n"),
-      Case("read_only_file_is_not_saved")
+      ToolCall("read_only_file_is_not_saved")
           .withoutPrivileges()
           .given("conf.json", kBefore, 0444)
-          .call({"-f", "conf.json", "-as", "k", "v"})
+          .call("-f conf.json -as k v")
           .reports("Could not write document: conf.json\n")
           .exits(1),
-      Case("read_only_file_is_displayed_before_the_save_fails")
+      ToolCall("read_only_file_is_displayed_before_the_save_fails")
           .withoutPrivileges()
           .withMergedStreams()
           .given("conf.json", kBefore, 0444)
-          .call({"--fileDisplay", "conf.json", "-as", "k", "v"})
+          .call("--fileDisplay conf.json -as k v")
           .prints("{\n    \"a\": 1,\n    \"k\": \"v\"\n}\nCould not write document: conf.json\n")
           .exits(1),
-      Case("read_only_file_without_a_change_is_a_success")
+      ToolCall("read_only_file_without_a_change_is_a_success")
           .withoutPrivileges()
           .given("conf.json", kBefore, 0444)
-          .call({"-fd", "conf.json", "-rm", "missing"})
+          .call("-fd conf.json -rm missing")
           .prints(kShown),
-      Case("reads_follow_the_save_of_a_read_only_file")
+      ToolCall("reads_follow_the_save_of_a_read_only_file")
           .withoutPrivileges()
           .given("conf.json", kBefore, 0444)
-          .call({"-f", "conf.json", "-as", "k", "v", "-r", "k"})
+          .call("-f conf.json -as k v -r k")
           .prints("v\n")
           .reports("Could not write document: conf.json\n")
           .exits(1),
-      Case("unreadable_file_is_passed_over")
+      ToolCall("unreadable_file_is_passed_over")
           .withoutPrivileges()
           .given("conf.json", kBefore, 0000)
-          .call({"-f", "conf.json"})
+          .call("-f conf.json")
           .prints("{}\n"),
-      Case("unreadable_file_is_not_saved")
+      ToolCall("unreadable_file_is_not_saved")
           .withoutPrivileges()
           .given("conf.json", kBefore, 0000)
-          .call({"-f", "conf.json", "-as", "k", "v"})
+          .call("-f conf.json -as k v")
           .reports("Could not write document: conf.json\n")
           .exits(1),
-      Case("unreadable_file_that_can_be_written_is_overwritten")
+      ToolCall("unreadable_file_that_can_be_written_is_overwritten")
           .withoutPrivileges()
           .given("conf.json", kBefore, 0222)
-          .call({"-f", "conf.json", "-as", "k", "v"})
+          .call("-f conf.json -as k v")
           .leaves("conf.json", kCreated),
-      Case("unreadable_file_to_merge")
+      ToolCall("unreadable_file_to_merge")
           .withoutPrivileges()
           .given("more.json", kBefore, 0000)
-          .call({"-af", "more.json"})
+          .call("-af more.json")
           .prints("{}\n")
           .reports("Could not open document: more.json\n"),
-      Case("file_in_a_read_only_folder_is_saved_in_place")
+      ToolCall("file_in_a_read_only_folder_is_saved_in_place")
           .withoutPrivileges()
           .givenDirectory("sub", 0555)
           .given("sub/conf.json", kBefore, 0666)
-          .call({"-f", "sub/conf.json", "-as", "k", "v"})
+          .call("-f sub/conf.json -as k v")
           .leaves("sub/conf.json", kAfter),
-      Case("new_file_in_a_read_only_folder")
+      ToolCall("new_file_in_a_read_only_folder")
           .withoutPrivileges()
           .givenDirectory("sub", 0555)
-          .call({"-f", "sub/conf.json", "-as", "k", "v"})
+          .call("-f sub/conf.json -as k v")
           .reports("Could not write document: sub/conf.json\n")
           .exits(1),
-      Case("link_to_a_read_only_file")
+      ToolCall("link_to_a_read_only_file")
           .withoutPrivileges()
           .given("real.json", kBefore, 0444)
           .givenSymbolicLink("link.json", "real.json")
-          .call({"-f", "link.json", "-as", "k", "v"})
+          .call("-f link.json -as k v")
           .reports("Could not write document: link.json\n")
           .exits(1),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(EverydayNames, ToolCall, testing::ValuesIn(names()), rowName);
-INSTANTIATE_TEST_SUITE_P(EverydayPaths, ToolCall, testing::ValuesIn(paths()), rowName);
-INSTANTIATE_TEST_SUITE_P(EverydayModes, ToolCall, testing::ValuesIn(modes()), rowName);
+const Table kEverydayNames("EverydayNames", names);
+const Table kEverydayPaths("EverydayPaths", paths);
+const Table kEverydayModes("EverydayModes", modes);
 
 }  // namespace
 }  // namespace kovalt::test

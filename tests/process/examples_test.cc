@@ -1,5 +1,5 @@
 #include "example_file.h"
-#include "tool_case.h"
+#include "tool_call.h"
 
 // Calls on copies of the example files.
 
@@ -108,91 +108,89 @@ constexpr auto kLargerPool = R"({
   }
 })";
 
-std::vector<Case> rows() {
+std::vector<ToolCall> rows() {
   return {
-      Case("the_port_of_the_service")
+      ToolCall("the_port_of_the_service")
           .given("service.json", exampleFile("service.json"))
-          .call({"--file", "service.json", "--read", "network.webSocketPort"})
+          .call("--file service.json --read network.webSocketPort")
           .prints("8765\n"),
-      Case("the_large_number_of_the_service_is_exact")
+      ToolCall("the_large_number_of_the_service_is_exact")
           .given("service.json", exampleFile("service.json"))
-          .call({"-f", "service.json", "-r", "instanceId", "-r", "logging.sampling", "-r", "production"})
+          .call("-f service.json -r instanceId -r logging.sampling -r production")
           .prints("{\n    \"instanceId\": \"9007199254740993\",\n    \"logging.sampling\": \"0.25\",\n"
                   "    \"production\": \"true\"\n}\n"),
-      Case("the_protocols_of_the_service_on_one_line")
+      ToolCall("the_protocols_of_the_service_on_one_line")
           .given("service.json", exampleFile("service.json"))
-          .call({"-f", "service.json", "--readArray", "network.tls.protocols"})
+          .call("-f service.json --readArray network.tls.protocols")
           .prints("TLSv1.2 TLSv1.3\n"),
-      Case("the_roles_of_one_user")
+      ToolCall("the_roles_of_one_user")
           .given("service.json", exampleFile("service.json"))
-          .call({"-f", "service.json", "-racq", "users.name=admin.roles"})
+          .call("-f service.json -racq users.name=admin.roles")
           .prints("read,write\n"),
-      Case("a_missing_section_of_the_service")
+      ToolCall("a_missing_section_of_the_service")
           .given("service.json", exampleFile("service.json"))
-          .call({"-f", "service.json", "-r", "network.proxy.port"})
+          .call("-f service.json -r network.proxy.port")
           .reports("--read error : Path \"network.proxy.port\" does not exist\n"),
-      Case("a_site_merged_over_the_service")
+      ToolCall("a_site_merged_over_the_service")
           .given("service.json", exampleFile("service.json"))
           .given("site-overrides.json", exampleFile("site-overrides.json"))
-          .call({"--file", "service.json", "--addFile", "site-overrides.json"})
+          .call("--file service.json --addFile site-overrides.json")
           .leaves("service.json", kServiceAtNorth),
-      Case("a_site_merged_over_the_service_without_saving")
+      ToolCall("a_site_merged_over_the_service_without_saving")
           .given("service.json", exampleFile("service.json"))
           .given("site-overrides.json", exampleFile("site-overrides.json"))
-          .call({"-af", "service.json", "-af", "site-overrides.json", "-ras", "allowedOrigins"})
+          .call("-af service.json -af site-overrides.json -ras allowedOrigins")
           .prints("\"https://console.internal\" \"https://status.internal\" \"https://north.internal\"\n"),
-      Case("the_links_of_the_graph_as_sorted_records")
+      ToolCall("the_links_of_the_graph_as_sorted_records")
           .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call({"-f", "hypergraph.json", "-roac", "links", "id", "hostname", "port"})
+          .call("-f hypergraph.json -roac links id hostname port")
           .prints("0 10.20.0.11 2099 1 10.20.0.12 3002 10 dogwood.internal 2099 2 cedar.internal 2099\n"),
-      Case("the_links_of_the_graph_with_separators")
+      ToolCall("the_links_of_the_graph_with_separators")
           .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call({"-f", "hypergraph.json", "-roacs", "links", "id", "hostname", "port", "/:"})
+          .call("-f hypergraph.json -roacs links id hostname port /:")
           .prints("0/10.20.0.11:2099 1/10.20.0.12:3002 10/dogwood.internal:2099 2/cedar.internal:2099\n"),
-      Case("the_zones_of_the_graph_counted")
+      ToolCall("the_zones_of_the_graph_counted")
           .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call({"-f", "hypergraph.json", "-roac", "links", "zone", "port"})
+          .call("-f hypergraph.json -roac links zone port")
           .prints("north 2099(2) south 3002 west 2099\n"),
-      Case("the_peers_of_the_graph_with_one_missing")
+      ToolCall("the_peers_of_the_graph_with_one_missing")
           .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call({"-f", "hypergraph.json", "-roacs", "links", "peer.name", "peer.latencyMs", "="})
+          .call("-f hypergraph.json -roacs links peer.name peer.latencyMs =")
           .prints("= alder=2.5(2) birch=11.0\n")
           .reports("--read error : Path \"peer.name\" does not exist\n"
                    "--read error : Path \"peer.latencyMs\" does not exist\n"),
-      Case("the_limit_of_a_pool_found_by_one_of_its_names")
+      ToolCall("the_limit_of_a_pool_found_by_one_of_its_names")
           .given("provisioning.json", exampleFile("provisioning.json"))
-          .call({"-f", "provisioning.json", "-r",
-                 "processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor"})
+          .call("-f provisioning.json -r processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor")
           .prints("12\n"),
-      Case("a_pool_that_does_not_exist")
+      ToolCall("a_pool_that_does_not_exist")
           .given("provisioning.json", exampleFile("provisioning.json"))
-          .call({"-f", "provisioning.json", "-r", "processProvisioning.pools.names=Nowhere.reserved"})
+          .call("-f provisioning.json -r processProvisioning.pools.names=Nowhere.reserved")
           .reports("Kovalt path not found with refKey=refValue \"names=Nowhere\"\n"),
-      Case("the_limit_of_a_pool_changed_in_place")
+      ToolCall("the_limit_of_a_pool_changed_in_place")
           .given("provisioning.json", exampleFile("provisioning.json"))
-          .call({"-f", "provisioning.json", "-an",
-                 "processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor", "16"})
+          .call("-f provisioning.json -an processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor 16")
           .leaves("provisioning.json", kLargerPool),
-      Case("the_service_is_laid_out_as_it_is_saved")
+      ToolCall("the_service_is_laid_out_as_it_is_saved")
           .given("service.json", exampleFile("service.json"))
-          .call({"-f", "service.json", "-rm", "network.proxy"})
+          .call("-f service.json -rm network.proxy")
           .leaves("service.json", savedExample("service.json")),
-      Case("the_site_is_laid_out_as_it_is_saved")
+      ToolCall("the_site_is_laid_out_as_it_is_saved")
           .given("site-overrides.json", exampleFile("site-overrides.json"))
-          .call({"-f", "site-overrides.json", "-rm", "site.gone"})
+          .call("-f site-overrides.json -rm site.gone")
           .leaves("site-overrides.json", savedExample("site-overrides.json")),
-      Case("the_graph_is_laid_out_as_it_is_saved")
+      ToolCall("the_graph_is_laid_out_as_it_is_saved")
           .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call({"-f", "hypergraph.json", "-rm", "links.gone"})
+          .call("-f hypergraph.json -rm links.gone")
           .leaves("hypergraph.json", savedExample("hypergraph.json")),
-      Case("the_pools_are_laid_out_as_they_are_saved")
+      ToolCall("the_pools_are_laid_out_as_they_are_saved")
           .given("provisioning.json", exampleFile("provisioning.json"))
-          .call({"-f", "provisioning.json", "-rm", "processProvisioning.gone"})
+          .call("-f provisioning.json -rm processProvisioning.gone")
           .leaves("provisioning.json", savedExample("provisioning.json")),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, ToolCall, testing::ValuesIn(rows()), rowName);
+const Table kExamples("Examples", rows);
 
 }  // namespace
 }  // namespace kovalt::test

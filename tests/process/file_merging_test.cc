@@ -1,6 +1,6 @@
 // Merging of other files into the document, at its root and at a key path.
 
-#include "tool_case.h"
+#include "tool_call.h"
 
 using namespace std::string_literals;
 
@@ -17,8 +17,9 @@ std::string many(int count, const std::string& value) {
 }
 
 /// A merge of one content into another, and the compact text of what it gives.
-Case merging(const std::string& name, const std::string& target, const std::string& source, const std::string& merged) {
-  return Case(name)
+ToolCall merging(const std::string& name, const std::string& target, const std::string& source,
+                 const std::string& merged) {
+  return ToolCall(name)
       .given("t.json", target)
       .given("s.json", source)
       .call({"--addFile", "t.json", "--addFile", "s.json", "--read", ""})
@@ -26,16 +27,17 @@ Case merging(const std::string& name, const std::string& target, const std::stri
 }
 
 /// A merge that ends the call because `key` has two types.
-Case clashing(const std::string& name, const std::string& target, const std::string& source, const std::string& key) {
-  return Case(name)
+ToolCall clashing(const std::string& name, const std::string& target, const std::string& source,
+                  const std::string& key) {
+  return ToolCall(name)
       .given("f.json", target)
       .given("s.json", source)
-      .call({"--file", "f.json", "--addFile", "s.json"})
+      .call("--file f.json --addFile s.json")
       .reports("Incompatible types for key " + key + "\n")
       .exits(1);
 }
 
-std::vector<Case> mergeRows() {
+std::vector<ToolCall> mergeRows() {
   return {
       merging("objects_are_merged_and_arrays_joined", R"({"a":{"c":2},"l":[0]})", R"({"a":{"b":1},"l":[1]})",
               R"({"a":{"c":2,"b":1},"l":[0,1]})"),
@@ -67,10 +69,10 @@ std::vector<Case> mergeRows() {
       merging("equal_names_of_the_file_meet_each_other", R"({})", R"({"a":1,"b":2,"a":3})", R"({"a":3,"b":2})"),
       merging("equal_arrays_of_the_file_are_joined", R"({})", R"({"l":[1],"l":[2]})", R"({"l":[1,2]})"),
       merging("equal_names_of_a_new_object_are_kept", R"({})", R"({"o":{"a":1,"a":2}})", R"({"o":{"a":1,"a":2}})"),
-      Case("first_of_two_equal_members_is_merged_into")
+      ToolCall("first_of_two_equal_members_is_merged_into")
           .given("f.json", R"({"a":1,"a":2})")
           .given("s.json", R"({"a":3})")
-          .call({"--file", "f.json", "--addFile", "s.json"})
+          .call("--file f.json --addFile s.json")
           .leaves("f.json", "{\n  \"a\": 3,\n  \"a\": 2\n}"),
 
       clashing("true_for_false", R"({"a":false})", R"({"a":true})", "a"),
@@ -90,180 +92,179 @@ std::vector<Case> mergeRows() {
       clashing("clash_between_equal_names_of_the_file", R"({})", R"({"a":1,"a":"x"})", "a"),
       clashing("clash_after_merged_members_saves_none_of_them", R"({"a":1,"b":2})", R"({"a":3,"n":4,"b":"x","o":5})",
                "b"),
-      Case("only_the_first_clash_is_reported")
+      ToolCall("only_the_first_clash_is_reported")
           .given("f.json", R"({"a":1,"b":2})")
           .given("s.json", R"({"b":"x","a":"y"})")
-          .call({"--file", "f.json", "--addFile", "s.json"})
+          .call("--file f.json --addFile s.json")
           .reports("Incompatible types for key b\n")
           .exits(1),
-      Case("clash_ends_the_call_at_once")
+      ToolCall("clash_ends_the_call_at_once")
           .given("f.json", R"({"a":1})")
           .given("s.json", R"({"a":"x"})")
-          .call({"--fileDisplay", "f.json", "--addFile", "s.json", "--addFile", "none.json", "--addNumber", "n", "x",
-                 "--read", "a"})
+          .call("--fileDisplay f.json --addFile s.json --addFile none.json --addNumber n x --read a")
           .reports("Incompatible types for key a\n")
           .exits(1),
   };
 }
 
-std::vector<Case> fileRows() {
+std::vector<ToolCall> fileRows() {
   return {
-      Case("nul_after_the_value_of_a_merged_file")
+      ToolCall("nul_after_the_value_of_a_merged_file")
           .given("s.json", "{\"a\":1}\0"s)
           .call({"--addFile", "s.json", "--read", ""})
           .prints("{}\n")
           .reports("Could not parse json file s.json\n"),
-      Case("clash_prints_a_name_with_nul_whole")
+      ToolCall("clash_prints_a_name_with_nul_whole")
           .given("f.json", R"({"a\u0000b":1})")
           .given("s.json", R"({"a\u0000b":"x"})")
-          .call({"--file", "f.json", "--addFile", "s.json"})
+          .call("--file f.json --addFile s.json")
           .reports("Incompatible types for key a\0b\n"s)
           .exits(1),
-      Case("first_of_equal_names_counts_among_many")
+      ToolCall("first_of_equal_names_counts_among_many")
           .given("one.json", "{\"o\":{" + many(40, "0") + many(40, "1") + "\"z\":0}}")
           .given("two.json", "{" + many(40, "2") + "\"z\":3}")
-          .call({"-af", "one.json", "-afat", "o", "two.json", "-r", "o"})
+          .call("-af one.json -afat o two.json -r o")
           .prints("{" + many(40, "2") + many(40, "1") + "\"z\":3}\n"),
-      Case("new_names_are_found_again_among_many")
+      ToolCall("new_names_are_found_again_among_many")
           .given("s.json", "{" + many(60, "1") + many(60, "2") + "\"z\":3}")
           .call({"-af", "s.json", "-r", ""})
           .prints("{" + many(60, "2") + "\"z\":3}\n"),
-      Case("file_into_an_empty_document")
+      ToolCall("file_into_an_empty_document")
           .given("s.json", R"({"a":[1]})")
-          .call({"--addFile", "s.json"})
+          .call("--addFile s.json")
           .prints("{\n    \"a\": [\n        1\n    ]\n}\n"),
-      Case("file_short_form").given("s.json", R"({"a":1})").call({"-af", "s.json"}).prints("{\n    \"a\": 1\n}\n"),
-      Case("file_into_a_saved_document")
+      ToolCall("file_short_form").given("s.json", R"({"a":1})").call("-af s.json").prints("{\n    \"a\": 1\n}\n"),
+      ToolCall("file_into_a_saved_document")
           .given("f.json", R"({"a":1})")
           .given("s.json", R"({"b":2})")
-          .call({"--file", "f.json", "--addFile", "s.json"})
+          .call("--file f.json --addFile s.json")
           .leaves("f.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      Case("empty_object_file_counts_as_a_modification")
+      ToolCall("empty_object_file_counts_as_a_modification")
           .given("f.json", R"({"a":1})")
           .given("s.json", "{}")
-          .call({"--file", "f.json", "--addFile", "s.json"})
+          .call("--file f.json --addFile s.json")
           .leaves("f.json", "{\n  \"a\": 1\n}"),
-      Case("file_merged_into_itself")
+      ToolCall("file_merged_into_itself")
           .given("f.json", R"({"a":1,"l":[1]})")
-          .call({"--file", "f.json", "--addFile", "f.json"})
+          .call("--file f.json --addFile f.json")
           .leaves("f.json", "{\n  \"a\": 1,\n  \"l\": [\n    1,\n    1\n  ]\n}"),
-      Case("file_merged_twice")
+      ToolCall("file_merged_twice")
           .given("s.json", R"({"l":[1,2]})")
           .call({"--addFile", "s.json", "--addFile", "s.json", "--read", ""})
           .prints("{\"l\":[1,2,1,2]}\n"),
-      Case("file_after_an_addition_has_the_last_word")
+      ToolCall("file_after_an_addition_has_the_last_word")
           .given("s.json", R"({"a":"file"})")
           .call({"--addString", "a", "option", "--addFile", "s.json", "--read", ""})
           .prints("{\"a\":\"file\"}\n"),
-      Case("addition_after_a_file_has_the_last_word")
+      ToolCall("addition_after_a_file_has_the_last_word")
           .given("s.json", R"({"a":"file"})")
           .call({"--addFile", "s.json", "--addString", "a", "option", "--read", ""})
           .prints("{\"a\":\"option\"}\n"),
-      Case("addition_of_another_type_before_a_file_clashes")
+      ToolCall("addition_of_another_type_before_a_file_clashes")
           .given("s.json", R"({"a":1})")
-          .call({"--addString", "a", "option", "--addFile", "s.json"})
+          .call("--addString a option --addFile s.json")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("addition_of_another_type_after_a_file_replaces")
+      ToolCall("addition_of_another_type_after_a_file_replaces")
           .given("s.json", R"({"a":1})")
           .call({"--addFile", "s.json", "--addString", "a", "option", "--read", ""})
           .prints("{\"a\":\"option\"}\n"),
-      Case("array_addition_after_a_file_replaces_its_array")
+      ToolCall("array_addition_after_a_file_replaces_its_array")
           .given("s.json", R"({"a":["x"]})")
           .call({"--addFile", "s.json", "--addArray", "a", "y", "--read", ""})
           .prints("{\"a\":[\"y\"]}\n"),
-      Case("file_after_an_array_addition_is_appended")
+      ToolCall("file_after_an_array_addition_is_appended")
           .given("s.json", R"({"a":["x"]})")
           .call({"--addFile", "s.json", "--addArray", "a", "y", "--addFile", "s.json", "--read", ""})
           .prints("{\"a\":[\"y\",\"x\"]}\n"),
-      Case("file_name_may_look_like_an_option")
+      ToolCall("file_name_may_look_like_an_option")
           .given("-f", R"({"a":1})")
-          .call({"--addFile", "-f", "--read", "a"})
+          .call("--addFile -f --read a")
           .prints("1\n"),
-      Case("missing_file_is_reported")
-          .call({"--addFile", "./no/s.json"})
+      ToolCall("missing_file_is_reported")
+          .call("--addFile ./no/s.json")
           .prints("{}\n")
           .reports("Could not open document: ./no/s.json\n"),
-      Case("missing_file_leaves_the_document_and_saves_it")
+      ToolCall("missing_file_leaves_the_document_and_saves_it")
           .given("f.json", R"({"a":1})")
-          .call({"--file", "f.json", "--addFile", "s.json"})
+          .call("--file f.json --addFile s.json")
           .reports("Could not open document: s.json\n")
           .leaves("f.json", "{\n  \"a\": 1\n}"),
-      Case("each_missing_file_is_reported")
+      ToolCall("each_missing_file_is_reported")
           .call({"--addFile", "s.json", "--addFile", "s.json", "--read", ""})
           .prints("{}\n")
           .reports("Could not open document: s.json\nCould not open document: s.json\n"),
-      Case("empty_file_name_is_a_missing_file")
+      ToolCall("empty_file_name_is_a_missing_file")
           .call({"--addFile", ""})
           .prints("{}\n")
           .reports("Could not open document: \n"),
-      Case("directory_is_a_file_that_does_not_parse")
+      ToolCall("directory_is_a_file_that_does_not_parse")
           .givenDirectory("d")
-          .call({"--addFile", "d"})
+          .call("--addFile d")
           .prints("{}\n")
           .reports("Could not parse json file d\n"),
-      Case("file_that_does_not_parse_adds_nothing")
+      ToolCall("file_that_does_not_parse_adds_nothing")
           .given("s.json", R"({"a":1,"b":)")
           .call({"--addString", "k", "v", "--addFile", "s.json", "--read", ""})
           .prints("{\"k\":\"v\"}\n")
           .reports("Could not parse json file s.json\n"),
-      Case("empty_file_does_not_parse")
+      ToolCall("empty_file_does_not_parse")
           .given("s.json", "")
-          .call({"--addFile", "s.json"})
+          .call("--addFile s.json")
           .prints("{}\n")
           .reports("Could not parse json file s.json\n"),
-      Case("parsed_value_before_other_text_is_not_merged")
+      ToolCall("parsed_value_before_other_text_is_not_merged")
           .given("s.json", "{\"a\":1} x")
-          .call({"--addFile", "s.json"})
+          .call("--addFile s.json")
           .prints("{}\n")
           .reports("Could not parse json file s.json\n"),
-      Case("root_array_of_a_file")
+      ToolCall("root_array_of_a_file")
           .given("f.json", R"({"a":1})")
           .given("s.json", R"([{"b":2}])")
-          .call({"--fileDisplay", "f.json", "--addFile", "s.json", "--read", "a"})
+          .call("--fileDisplay f.json --addFile s.json --read a")
           .aborts("IsObject()"),
-      Case("root_string_of_a_file").given("s.json", "\"x\"").call({"--addFile", "s.json"}).aborts("IsObject()"),
-      Case("root_null_of_a_file").given("s.json", "null").call({"--addFile", "s.json"}).aborts("IsObject()"),
-      Case("file_replaces_a_string_root")
+      ToolCall("root_string_of_a_file").given("s.json", "\"x\"").call("--addFile s.json").aborts("IsObject()"),
+      ToolCall("root_null_of_a_file").given("s.json", "null").call("--addFile s.json").aborts("IsObject()"),
+      ToolCall("file_replaces_a_string_root")
           .given("s.json", R"({"a":1})")
           .call({"--addString", "", "x", "--addFile", "s.json", "--read", ""})
           .prints("{\"a\":1}\n"),
-      Case("file_replaces_a_root_array")
+      ToolCall("file_replaces_a_root_array")
           .given("f.json", "[1,2]")
           .given("s.json", R"({"a":1})")
-          .call({"--file", "f.json", "--addFile", "s.json"})
+          .call("--file f.json --addFile s.json")
           .leaves("f.json", "{\n  \"a\": 1\n}"),
-      Case("missing_file_replaces_a_root_array")
+      ToolCall("missing_file_replaces_a_root_array")
           .given("f.json", "[1,2]")
-          .call({"--file", "f.json", "--addFile", "s.json"})
+          .call("--file f.json --addFile s.json")
           .reports("Could not open document: s.json\n")
           .leaves("f.json", "{}"),
   };
 }
 
-std::vector<Case> fileAtRows() {
+std::vector<ToolCall> fileAtRows() {
   return {
-      Case("file_at_a_new_key")
+      ToolCall("file_at_a_new_key")
           .given("s.json", R"({"a":1,"b":[2]})")
           .call({"--addFileAt", "objectKey", "s.json", "--read", ""})
           .prints("{\"objectKey\":{\"a\":1,\"b\":[2]}}\n"),
-      Case("file_at_short_form")
+      ToolCall("file_at_short_form")
           .given("s.json", R"({"a":1})")
-          .call({"-afat", "k", "s.json"})
+          .call("-afat k s.json")
           .prints("{\n    \"k\": {\n        \"a\": 1\n    }\n}\n"),
-      Case("file_at_an_added_object")
+      ToolCall("file_at_an_added_object")
           .given("s.json", R"({"a":1,"b":[2]})")
           .call({"--addObject", "objectKey", "--addFileAt", "objectKey", "s.json", "--read", ""})
           .prints("{\"objectKey\":{\"a\":1,\"b\":[2]}}\n"),
-      Case("file_at_an_object_emptied_later")
+      ToolCall("file_at_an_object_emptied_later")
           .given("s.json", R"({"a":1})")
           .call({"--addFileAt", "k", "s.json", "--addObject", "k", "--read", ""})
           .prints("{\"k\":{}}\n"),
-      Case("file_under_missing_objects")
+      ToolCall("file_under_missing_objects")
           .given("s.json", R"({"x":1})")
           .call({"--addFileAt", "a.b.c", "s.json", "--read", ""})
           .prints("{\"a\":{\"b\":{\"c\":{\"x\":1}}}}\n"),
-      Case("file_at_an_existing_object_is_merged")
+      ToolCall("file_at_an_existing_object_is_merged")
           .given("f.json", R"({"k":{"a":1,"l":[1]},"z":0})")
           .given("s.json", R"({"l":[2],"a":3})")
           .call({"--file", "f.json", "--addFileAt", "k", "s.json", "--read", ""})
@@ -278,110 +279,110 @@ std::vector<Case> fileAtRows() {
   },
   "z": 0
 })"),
-      Case("file_at_the_empty_path_is_merged_at_the_root")
+      ToolCall("file_at_the_empty_path_is_merged_at_the_root")
           .given("f.json", R"({"a":1})")
           .given("s.json", R"({"b":2})")
           .call({"--file", "f.json", "--addFileAt", "", "s.json"})
           .leaves("f.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      Case("file_at_a_string_replaces_it")
+      ToolCall("file_at_a_string_replaces_it")
           .given("f.json", R"({"k":"s","l":1})")
           .given("s.json", R"({"a":1})")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .leaves("f.json", "{\n  \"k\": {\n    \"a\": 1\n  },\n  \"l\": 1\n}"),
-      Case("file_at_an_array_replaces_it")
+      ToolCall("file_at_an_array_replaces_it")
           .given("f.json", R"({"k":[1]})")
           .given("s.json", R"({"a":1})")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .leaves("f.json", "{\n  \"k\": {\n    \"a\": 1\n  }\n}"),
-      Case("file_at_null_replaces_it")
+      ToolCall("file_at_null_replaces_it")
           .given("f.json", R"({"k":null})")
           .given("s.json", R"({"a":1})")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .leaves("f.json", "{\n  \"k\": {\n    \"a\": 1\n  }\n}"),
-      Case("file_at_a_selected_object")
+      ToolCall("file_at_a_selected_object")
           .given("f.json", R"([{"id":1},{"id":2}])")
           .given("s.json", R"({"n":"x"})")
-          .call({"--file", "f.json", "--addFileAt", "id=2", "s.json"})
+          .call("--file f.json --addFileAt id=2 s.json")
           .leaves("f.json", "[\n  {\n    \"id\": 1\n  },\n  {\n    \"id\": 2,\n    \"n\": \"x\"\n  }\n]"),
-      Case("file_behind_a_failed_selection")
+      ToolCall("file_behind_a_failed_selection")
           .given("s.json", R"({"n":"x"})")
           .call({"--addFileAt", "id=2", "s.json", "--read", ""})
           .prints("{\"id=2\":{\"n\":\"x\"}}\n")
           .reports("Kovalt path not found with refKey=refValue \"id=2\"\n"),
-      Case("file_below_a_string_clashes")
+      ToolCall("file_below_a_string_clashes")
           .given("f.json", R"({"a":"s"})")
           .given("s.json", R"({"n":"x"})")
-          .call({"--file", "f.json", "--addFileAt", "a.b", "s.json"})
+          .call("--file f.json --addFileAt a.b s.json")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("clash_inside_the_object_at_the_path")
+      ToolCall("clash_inside_the_object_at_the_path")
           .given("f.json", R"({"k":{"a":1}})")
           .given("s.json", R"({"a":"x"})")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("missing_file_at_a_new_key_leaves_an_empty_object")
+      ToolCall("missing_file_at_a_new_key_leaves_an_empty_object")
           .call({"--addFileAt", "a.k", "s.json", "--read", ""})
           .prints("{\"a\":{\"k\":{}}}\n")
           .reports("Could not open document: s.json\n"),
-      Case("missing_file_at_a_string_leaves_an_empty_object")
+      ToolCall("missing_file_at_a_string_leaves_an_empty_object")
           .given("f.json", R"({"k":"s"})")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .reports("Could not open document: s.json\n")
           .leaves("f.json", "{\n  \"k\": {}\n}"),
-      Case("missing_file_at_an_object_leaves_it")
+      ToolCall("missing_file_at_an_object_leaves_it")
           .given("f.json", R"({"k":{"a":1}})")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .reports("Could not open document: s.json\n")
           .leaves("f.json", "{\n  \"k\": {\n    \"a\": 1\n  }\n}"),
-      Case("missing_file_below_a_string_is_reported_before_the_clash")
+      ToolCall("missing_file_below_a_string_is_reported_before_the_clash")
           .given("f.json", R"({"a":"s"})")
-          .call({"--file", "f.json", "--addFileAt", "a.b", "s.json"})
+          .call("--file f.json --addFileAt a.b s.json")
           .reports("Could not open document: s.json\nIncompatible types for key a\n")
           .exits(1),
-      Case("file_that_does_not_parse_at_a_new_key_leaves_an_empty_object")
+      ToolCall("file_that_does_not_parse_at_a_new_key_leaves_an_empty_object")
           .given("s.json", R"({"a":1)")
           .call({"--addFileAt", "k", "s.json", "--read", ""})
           .prints("{\"k\":{}}\n")
           .reports("Could not parse json file s.json\n"),
-      Case("file_that_does_not_parse_at_an_array_leaves_an_empty_object")
+      ToolCall("file_that_does_not_parse_at_an_array_leaves_an_empty_object")
           .given("f.json", R"({"k":[1]})")
           .given("s.json", "[1")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .reports("Could not parse json file s.json\n")
           .leaves("f.json", "{\n  \"k\": {}\n}"),
-      Case("file_that_does_not_parse_at_an_object_leaves_it")
+      ToolCall("file_that_does_not_parse_at_an_object_leaves_it")
           .given("f.json", R"({"k":{"a":1}})")
           .given("s.json", R"({"a":2,})")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .reports("Could not parse json file s.json\n")
           .leaves("f.json", "{\n  \"k\": {\n    \"a\": 1\n  }\n}"),
-      Case("root_array_of_a_file_at_a_new_key")
+      ToolCall("root_array_of_a_file_at_a_new_key")
           .given("f.json", R"({"a":1})")
           .given("s.json", "[1]")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .aborts("IsObject()"),
-      Case("root_array_of_a_file_at_an_array")
+      ToolCall("root_array_of_a_file_at_an_array")
           .given("f.json", R"({"k":[1]})")
           .given("s.json", "[2]")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .aborts("IsObject()"),
-      Case("root_number_of_a_file_at_an_object")
+      ToolCall("root_number_of_a_file_at_an_object")
           .given("f.json", R"({"k":{}})")
           .given("s.json", "1")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .aborts("IsObject()"),
-      Case("file_at_a_key_below_a_root_array")
+      ToolCall("file_at_a_key_below_a_root_array")
           .given("f.json", "[1]")
-          .call({"--file", "f.json", "--addFileAt", "k", "s.json"})
+          .call("--file f.json --addFileAt k s.json")
           .reports("Could not open document: s.json\n")
           .aborts("IsObject()"),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(Merging, ToolCall, testing::ValuesIn(mergeRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(FileMerging, ToolCall, testing::ValuesIn(fileRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(FileMergingAtAPath, ToolCall, testing::ValuesIn(fileAtRows()), rowName);
+const Table kMerging("Merging", mergeRows);
+const Table kFileMerging("FileMerging", fileRows);
+const Table kFileMergingAtAPath("FileMergingAtAPath", fileAtRows);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -1,9 +1,11 @@
+#include <gtest/gtest.h>
+
 #include <cctype>
 #include <sstream>
 #include <string>
 
 #include "example_file.h"
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -33,21 +35,21 @@ std::string quotedPart(const std::string& column) {
   return start == 0 ? "" : column.substr(start, column.find('`', start) - start);
 }
 
-Case refusal(const std::string& name, const std::string& input) {
-  return Case(name)
+ToolCall refusal(const std::string& name, const std::string& input) {
+  return ToolCall(name)
       .given("in.json", input)
       .call({"-f", "in.json", "-r", ""})
       .prints("{}\n")
       .reports("Could not parse json file in.json\n");
 }
 
-Case acceptance(const std::string& name, const std::string& input, const std::string& text) {
-  return Case(name).given("in.json", input).call({"-f", "in.json", "-r", ""}).prints(text + "\n");
+ToolCall acceptance(const std::string& name, const std::string& input, const std::string& text) {
+  return ToolCall(name).given("in.json", input).call({"-f", "in.json", "-r", ""}).prints(text + "\n");
 }
 
 /// The rows of the page that lists the decisions, named by its headings.
-std::vector<Case> pageRows() {
-  std::vector<Case> rows;
+std::vector<ToolCall> pageRows() {
+  std::vector<ToolCall> rows;
   std::istringstream page(projectFile("docs/json-grammar.md"));
   std::string heading;
   for (std::string line; std::getline(page, line);) {
@@ -68,11 +70,11 @@ std::vector<Case> pageRows() {
   return rows;
 }
 
-INSTANTIATE_TEST_SUITE_P(JsonGrammar, ToolCall, testing::ValuesIn(pageRows()), rowName);
+const Table kJsonGrammar("JsonGrammar", pageRows);
 
 TEST(JsonGrammarPage, HoldsRows) { EXPECT_GE(pageRows().size(), 382U); }
 
-TEST(JsonGrammar, RefusesDocumentsCutShortAtEveryByte) {
+TEST(JsonGrammarLoops, RefusesDocumentsCutShortAtEveryByte) {
   for (const std::string document : {
            R"({"a":[1,-2.5e+3,true,false,null,"x\"\u00e9\ud834\udd1e"],"b":{"":{}}})",
            R"([ [ ], { }, "\\", 0.0, 18446744073709551615 ])",
@@ -87,7 +89,7 @@ TEST(JsonGrammar, RefusesDocumentsCutShortAtEveryByte) {
   }
 }
 
-TEST(JsonGrammar, TakesDeepNesting) {
+TEST(JsonGrammarLoops, TakesDeepNesting) {
   const std::string arrays = std::string(1000, '[') + std::string(1000, ']');
   acceptance("arrays", arrays, arrays).check();
   refusal("one_bracket_short", arrays.substr(1)).check();
@@ -100,7 +102,7 @@ TEST(JsonGrammar, TakesDeepNesting) {
   refusal("one_brace_short", objects.substr(0, objects.size() - 1)).check();
 }
 
-TEST(JsonGrammar, DecidesTheSameAcrossTheBordersOfTheReadBuffer) {
+TEST(JsonGrammarLoops, DecidesTheSameAcrossTheBordersOfTheReadBuffer) {
   // Tokens and what follows them are moved over the end of the buffer byte by byte.
   for (const std::size_t spaces : {4088U, 8188U}) {
     for (std::size_t more = 0; more < 12; ++more) {

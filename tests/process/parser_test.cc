@@ -1,4 +1,4 @@
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -6,29 +6,29 @@ namespace {
 constexpr const char* kArrays = R"({"l": ["a", "b c", 1], "m": ["x", "y"]})";
 constexpr const char* kLinks = R"({"links": [{"id": 0, "port": 2099}, {"id": 1, "port": 3002}]})";
 
-std::vector<Case> optionForms() {
+std::vector<ToolCall> optionForms() {
   return {
-      Case("add_string").call({"--addString", "a", "x", "-as", "b", "y"}).prints(R"({
+      ToolCall("add_string").call("--addString a x -as b y").prints(R"({
     "a": "x",
     "b": "y"
 }
 )"),
-      Case("add_boolean").call({"--addBoolean", "a", "true", "-ab", "b", "false"}).prints(R"({
+      ToolCall("add_boolean").call("--addBoolean a true -ab b false").prints(R"({
     "a": true,
     "b": false
 }
 )"),
-      Case("add_number").call({"--addNumber", "a", "1", "-an", "b", "-2"}).prints(R"({
+      ToolCall("add_number").call("--addNumber a 1 -an b -2").prints(R"({
     "a": 1,
     "b": -2
 }
 )"),
-      Case("add_object").call({"--addObject", "a", "-ao", "b"}).prints(R"({
+      ToolCall("add_object").call("--addObject a -ao b").prints(R"({
     "a": {},
     "b": {}
 }
 )"),
-      Case("add_array").call({"--addArray", "a", "x", "-aa", "b", "y"}).prints(R"({
+      ToolCall("add_array").call("--addArray a x -aa b y").prints(R"({
     "a": [
         "x"
     ],
@@ -37,7 +37,7 @@ std::vector<Case> optionForms() {
     ]
 }
 )"),
-      Case("add_array_boolean").call({"--addArrayBoolean", "a", "1", "-aab", "b", "0"}).prints(R"({
+      ToolCall("add_array_boolean").call("--addArrayBoolean a 1 -aab b 0").prints(R"({
     "a": [
         true
     ],
@@ -46,7 +46,7 @@ std::vector<Case> optionForms() {
     ]
 }
 )"),
-      Case("add_array_number").call({"--addArrayNumber", "a", "1", "-aan", "b", "2"}).prints(R"({
+      ToolCall("add_array_number").call("--addArrayNumber a 1 -aan b 2").prints(R"({
     "a": [
         1
     ],
@@ -55,19 +55,19 @@ std::vector<Case> optionForms() {
     ]
 }
 )"),
-      Case("add_file")
+      ToolCall("add_file")
           .given("one.json", R"({"a":1})")
           .given("two.json", R"({"b":2})")
-          .call({"--addFile", "one.json", "-af", "two.json"})
+          .call("--addFile one.json -af two.json")
           .prints(R"({
     "a": 1,
     "b": 2
 }
 )"),
-      Case("add_file_at")
+      ToolCall("add_file_at")
           .given("one.json", R"({"a":1})")
           .given("two.json", R"({"b":2})")
-          .call({"--addFileAt", "x", "one.json", "-afat", "y", "two.json"})
+          .call("--addFileAt x one.json -afat y two.json")
           .prints(R"({
     "x": {
         "a": 1
@@ -77,164 +77,161 @@ std::vector<Case> optionForms() {
     }
 }
 )"),
-      Case("remove")
+      ToolCall("remove")
           .given("one.json", R"({"a":1,"b":2})")
-          .call({"--addFile", "one.json", "--remove", "a", "-rm", "b"})
+          .call("--addFile one.json --remove a -rm b")
           .prints("{}\n"),
-      Case("remove_leaves_empty_parents")
+      ToolCall("remove_leaves_empty_parents")
           .given("one.json", R"({"a":{"b":1},"c":{"d":2}})")
-          .call({"--addFile", "one.json", "--remove", "a.b", "-rm", "c.d"})
+          .call("--addFile one.json --remove a.b -rm c.d")
           .prints(R"({
     "a": {},
     "c": {}
 }
 )"),
-      Case("remove_and_clear")
+      ToolCall("remove_and_clear")
           .given("one.json", R"({"a":{"b":1},"c":{"d":2}})")
-          .call({"--addFile", "one.json", "--removeAndClear", "a.b", "-rmc", "c.d"})
+          .call("--addFile one.json --removeAndClear a.b -rmc c.d")
           .prints("{}\n"),
-      Case("read").call({"-as", "a", "x", "-an", "b", "5", "--read", "a", "-r", "b"}).prints(R"({
+      ToolCall("read").call("-as a x -an b 5 --read a -r b").prints(R"({
     "a": "x",
     "b": "5"
 }
 )"),
-      Case("read_array_space")
+      ToolCall("read_array_space")
           .given("arrays.json", kArrays)
-          .call({"-f", "arrays.json", "--readArraySpace", "l", "-ras", "m"})
+          .call("-f arrays.json --readArraySpace l -ras m")
           .prints(R"({
     "l": "\"a\" \"b c\" 1",
     "m": "\"x\" \"y\""
 }
 )"),
-      Case("read_array_space_no_quote")
+      ToolCall("read_array_space_no_quote")
           .given("arrays.json", kArrays)
-          .call({"-f", "arrays.json", "--readArraySpaceNoQuote", "l", "-rasq", "m"})
+          .call("-f arrays.json --readArraySpaceNoQuote l -rasq m")
           .prints(R"({
     "l": "a b c 1",
     "m": "x y"
 }
 )"),
-      Case("read_array_is_read_array_space_no_quote")
+      ToolCall("read_array_is_read_array_space_no_quote")
           .given("arrays.json", kArrays)
-          .call({"-f", "arrays.json", "--readArray", "l", "-ra", "m"})
+          .call("-f arrays.json --readArray l -ra m")
           .prints(R"({
     "l": "a b c 1",
     "m": "x y"
 }
 )"),
-      Case("read_array_comma")
+      ToolCall("read_array_comma")
           .given("arrays.json", kArrays)
-          .call({"-f", "arrays.json", "--readArrayComma", "l", "-rac", "m"})
+          .call("-f arrays.json --readArrayComma l -rac m")
           .prints(R"({
     "l": "\"a\",\"b c\",1",
     "m": "\"x\",\"y\""
 }
 )"),
-      Case("read_array_comma_no_quote")
+      ToolCall("read_array_comma_no_quote")
           .given("arrays.json", kArrays)
-          .call({"-f", "arrays.json", "--readArrayCommaNoQuote", "l", "-racq", "m"})
+          .call("-f arrays.json --readArrayCommaNoQuote l -racq m")
           .prints(R"({
     "l": "a,b c,1",
     "m": "x,y"
 }
 )"),
-      Case("read_object_array_concat")
+      ToolCall("read_object_array_concat")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "--readObjectArrayConcat", "links", "id", "port", "-roac", "links", "port"})
+          .call("-f links.json --readObjectArrayConcat links id port -roac links port")
           .prints(R"({
     "links": "0 2099 1 3002",
     "links": "2099 3002"
 }
 )"),
-      Case("read_object_array_concat_sep")
+      ToolCall("read_object_array_concat_sep")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "--readObjectArrayConcatSep", "links", "id", "port", "/", "-roacs", "links",
-                 "port", "id", ":"})
+          .call("-f links.json --readObjectArrayConcatSep links id port / -roacs links port id :")
           .prints(R"({
     "links": "0/2099 1/3002",
     "links": "2099:0 3002:1"
 }
 )"),
-      Case("long_file")
+      ToolCall("long_file")
           .given("conf.json", R"({"a":1})")
-          .call({"--file", "conf.json", "-an", "a", "2"})
+          .call("--file conf.json -an a 2")
           .leaves("conf.json", "{\n  \"a\": 2\n}"),
-      Case("short_file")
+      ToolCall("short_file")
           .given("conf.json", R"({"a":1})")
-          .call({"-f", "conf.json", "-an", "a", "2"})
+          .call("-f conf.json -an a 2")
           .leaves("conf.json", "{\n  \"a\": 2\n}"),
-      Case("long_file_display")
+      ToolCall("long_file_display")
           .given("conf.json", R"({"a":1})")
-          .call({"--fileDisplay", "conf.json", "-an", "a", "2"})
+          .call("--fileDisplay conf.json -an a 2")
           .prints("{\n    \"a\": 2\n}\n")
           .leaves("conf.json", "{\n  \"a\": 2\n}"),
-      Case("short_file_display")
+      ToolCall("short_file_display")
           .given("conf.json", R"({"a":1})")
-          .call({"-fd", "conf.json", "-an", "a", "2"})
+          .call("-fd conf.json -an a 2")
           .prints("{\n    \"a\": 2\n}\n")
           .leaves("conf.json", "{\n  \"a\": 2\n}"),
   };
 }
 
-std::vector<Case> fixedArguments() {
+std::vector<ToolCall> fixedArguments() {
   return {
       // Fixed arguments are taken whatever they look like.
-      Case("dash_in_a_key_path").call({"--addString", "-k", "v"}).prints("{\n    \"-k\": \"v\"\n}\n"),
-      Case("option_as_a_key_path").call({"--addString", "-as", "v"}).prints("{\n    \"-as\": \"v\"\n}\n"),
-      Case("option_as_a_value").call({"--addString", "k", "--file"}).prints("{\n    \"k\": \"--file\"\n}\n"),
-      Case("negative_number").call({"--addNumber", "k", "-5"}).prints("{\n    \"k\": -5\n}\n"),
-      Case("empty_value").call({"--addString", "k", ""}).prints("{\n    \"k\": \"\"\n}\n"),
-      Case("empty_key_path_of_a_read").call({"-as", "k", "v", "--read", ""}).prints("{\"k\":\"v\"}\n"),
-      Case("option_as_a_boolean")
-          .call({"--addBoolean", "k", "--remove"})
+      ToolCall("dash_in_a_key_path").call("--addString -k v").prints("{\n    \"-k\": \"v\"\n}\n"),
+      ToolCall("option_as_a_key_path").call("--addString -as v").prints("{\n    \"-as\": \"v\"\n}\n"),
+      ToolCall("option_as_a_value").call("--addString k --file").prints("{\n    \"k\": \"--file\"\n}\n"),
+      ToolCall("negative_number").call("--addNumber k -5").prints("{\n    \"k\": -5\n}\n"),
+      ToolCall("empty_value").call({"--addString", "k", ""}).prints("{\n    \"k\": \"\"\n}\n"),
+      ToolCall("empty_key_path_of_a_read").call({"-as", "k", "v", "--read", ""}).prints("{\"k\":\"v\"}\n"),
+      ToolCall("option_as_a_boolean")
+          .call("--addBoolean k --remove")
           .prints("{\n    \"k\": null\n}\n")
           .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, --remove rejected.\n"),
-      Case("option_as_the_key_path_of_an_object").call({"-ao", "-ao"}).prints("{\n    \"-ao\": {}\n}\n"),
-      Case("option_as_the_key_path_of_an_array").call({"-aa", "-aa"}).prints("{\n    \"-aa\": []\n}\n"),
-      Case("option_as_the_path_of_a_read")
-          .call({"--read", "--read"})
+      ToolCall("option_as_the_key_path_of_an_object").call("-ao -ao").prints("{\n    \"-ao\": {}\n}\n"),
+      ToolCall("option_as_the_key_path_of_an_array").call("-aa -aa").prints("{\n    \"-aa\": []\n}\n"),
+      ToolCall("option_as_the_path_of_a_read")
+          .call("--read --read")
           .reports("--read error : Path \"--read\" does not exist\n"),
-      Case("option_as_the_path_of_a_removal").call({"--remove", "--remove", "-as", "k", "v"}).prints(R"({
+      ToolCall("option_as_the_path_of_a_removal").call("--remove --remove -as k v").prints(R"({
     "k": "v"
 }
 )"),
-      Case("option_as_a_file_to_merge")
-          .call({"--addFile", "-af"})
+      ToolCall("option_as_a_file_to_merge")
+          .call("--addFile -af")
           .prints("{}\n")
           .reports("Could not open document: -af\n"),
-      Case("option_as_both_arguments_of_add_file_at")
+      ToolCall("option_as_both_arguments_of_add_file_at")
           .given("-f", R"({"a":1})")
-          .call({"--addFileAt", "-f", "-f"})
+          .call("--addFileAt -f -f")
           .prints(R"({
     "-f": {
         "a": 1
     }
 }
 )"),
-      Case("option_as_a_file").call({"--file", "--file", "-as", "k", "v"}).leaves("--file", "{\n  \"k\": \"v\"\n}"),
-      Case("option_as_the_key_path_of_a_concatenation")
+      ToolCall("option_as_a_file").call("--file --file -as k v").leaves("--file", "{\n  \"k\": \"v\"\n}"),
+      ToolCall("option_as_the_key_path_of_a_concatenation")
           .given("data.json", kLinks)
-          .call({"--readObjectArrayConcat", "-f", "data.json", "links", "id"})
+          .call("--readObjectArrayConcat -f data.json links id")
           .reports("--read error : Path \"-f\" does not exist\n"),
-      Case("option_as_the_key_path_of_a_separated_concatenation")
+      ToolCall("option_as_the_key_path_of_a_separated_concatenation")
           .given("data.json", kLinks)
-          .call({"-roacs", "-fd", "data.json", "links", "/"})
+          .call("-roacs -fd data.json links /")
           .reports("--read error : Path \"-fd\" does not exist\n"),
 
       // The places of the options.
-      Case("file_after_the_edits").call({"-as", "k", "v", "-f", "conf.json"}).leaves("conf.json", R"({
+      ToolCall("file_after_the_edits").call("-as k v -f conf.json").leaves("conf.json", R"({
   "k": "v"
 })"),
-      Case("file_between_the_edits")
-          .call({"-as", "a", "x", "-f", "conf.json", "-as", "b", "y"})
+      ToolCall("file_between_the_edits")
+          .call("-as a x -f conf.json -as b y")
           .leaves("conf.json",
                   R"({
   "a": "x",
   "b": "y"
 })"),
-      Case("edits_of_several_kinds_keep_their_order")
-          .call({"-an", "d", "1", "-aa", "c", "x", "-ao", "b", "-as", "a", "y"})
-          .prints(R"({
+      ToolCall("edits_of_several_kinds_keep_their_order").call("-an d 1 -aa c x -ao b -as a y").prints(R"({
     "d": 1,
     "c": [
         "x"
@@ -243,9 +240,7 @@ std::vector<Case> fixedArguments() {
     "a": "y"
 }
 )"),
-      Case("reads_keep_their_order_between_edits")
-          .call({"-r", "b", "-as", "a", "x", "-ra", "a", "-as", "b", "y"})
-          .prints(R"({
+      ToolCall("reads_keep_their_order_between_edits").call("-r b -as a x -ra a -as b y").prints(R"({
     "b": "y",
     "a": "x"
 }
@@ -253,8 +248,8 @@ std::vector<Case> fixedArguments() {
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(ParserOptionForms, ToolCall, testing::ValuesIn(optionForms()), rowName);
-INSTANTIATE_TEST_SUITE_P(ParserFixedArguments, ToolCall, testing::ValuesIn(fixedArguments()), rowName);
+const Table kParserOptionForms("ParserOptionForms", optionForms);
+const Table kParserFixedArguments("ParserFixedArguments", fixedArguments);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -1,54 +1,54 @@
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
 
-std::vector<Case> order() {
+std::vector<ToolCall> order() {
   return {
       // Edits before removals, removals before display and save, reads last.
-      Case("removal_given_before_the_addition").call({"--remove", "k", "--addString", "k", "v"}).prints("{}\n"),
-      Case("removal_given_between_two_additions").call({"-as", "k", "v", "-rm", "k", "-as", "k", "w"}).prints("{}\n"),
-      Case("removal_given_before_the_merge")
+      ToolCall("removal_given_before_the_addition").call("--remove k --addString k v").prints("{}\n"),
+      ToolCall("removal_given_between_two_additions").call("-as k v -rm k -as k w").prints("{}\n"),
+      ToolCall("removal_given_before_the_merge")
           .given("more.json", R"({"a":1,"b":2})")
-          .call({"-rm", "b", "-af", "more.json"})
+          .call("-rm b -af more.json")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("read_given_before_the_addition").call({"-r", "k", "-as", "k", "v"}).prints("v\n"),
-      Case("read_sees_the_removal")
-          .call({"-r", "k", "-as", "k", "v", "-rm", "k"})
+      ToolCall("read_given_before_the_addition").call("-r k -as k v").prints("v\n"),
+      ToolCall("read_sees_the_removal")
+          .call("-r k -as k v -rm k")
           .reports("--read error : Path \"k\" does not exist\n"),
-      Case("saved_file_shows_the_removal")
+      ToolCall("saved_file_shows_the_removal")
           .given("conf.json", R"({"a":1,"b":2})")
-          .call({"-rm", "b", "-f", "conf.json", "-an", "a", "3"})
+          .call("-rm b -f conf.json -an a 3")
           .leaves("conf.json", "{\n  \"a\": 3\n}"),
-      Case("display_shows_the_removal")
+      ToolCall("display_shows_the_removal")
           .given("conf.json", R"({"a":1,"b":2})")
-          .call({"-fd", "conf.json", "-rm", "b"})
+          .call("-fd conf.json -rm b")
           .prints("{\n    \"a\": 1\n}\n")
           .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      Case("removals_are_done_in_their_order")
+      ToolCall("removals_are_done_in_their_order")
           .given("conf.json", R"({"a":1,"b":2,"c":3,"d":4})")
-          .call({"-f", "conf.json", "-rm", "a", "-rm", "b"})
+          .call("-f conf.json -rm a -rm b")
           .leaves("conf.json", "{\n  \"d\": 4,\n  \"c\": 3\n}"),
-      Case("later_edit_wins").call({"-as", "k", "v", "-an", "k", "1"}).prints("{\n    \"k\": 1\n}\n"),
-      Case("object_behind_its_member_empties_it").call({"-as", "o.k", "v", "-ao", "o"}).prints("{\n    \"o\": {}\n}\n"),
-      Case("object_before_its_member_holds_it").call({"-ao", "o", "-as", "o.k", "v"}).prints(R"({
+      ToolCall("later_edit_wins").call("-as k v -an k 1").prints("{\n    \"k\": 1\n}\n"),
+      ToolCall("object_behind_its_member_empties_it").call("-as o.k v -ao o").prints("{\n    \"o\": {}\n}\n"),
+      ToolCall("object_before_its_member_holds_it").call("-ao o -as o.k v").prints(R"({
     "o": {
         "k": "v"
     }
 }
 )"),
-      Case("addition_behind_a_merge")
+      ToolCall("addition_behind_a_merge")
           .given("more.json", R"({"k":"merged"})")
-          .call({"-af", "more.json", "-as", "k", "added"})
+          .call("-af more.json -as k added")
           .prints("{\n    \"k\": \"added\"\n}\n"),
-      Case("merge_behind_an_addition")
+      ToolCall("merge_behind_an_addition")
           .given("more.json", R"({"k":"merged"})")
-          .call({"-as", "k", "added", "-af", "more.json"})
+          .call("-as k added -af more.json")
           .prints("{\n    \"k\": \"merged\"\n}\n"),
-      Case("merges_at_two_places_keep_their_order")
+      ToolCall("merges_at_two_places_keep_their_order")
           .given("one.json", R"({"l":[1]})")
           .given("two.json", R"({"l":[2]})")
-          .call({"-afat", "o", "two.json", "-afat", "o", "one.json"})
+          .call("-afat o two.json -afat o one.json")
           .prints(R"({
     "o": {
         "l": [
@@ -58,10 +58,9 @@ std::vector<Case> order() {
     }
 }
 )"),
-      Case("edit_of_a_nested_key_saved_and_read_back")
+      ToolCall("edit_of_a_nested_key_saved_and_read_back")
           .given("conf.json", R"({"network":{"host":"h"}})")
-          .call({"--file", "conf.json", "--addString", "network.webSocketPort", "9000", "--read",
-                 "network.webSocketPort"})
+          .call("--file conf.json --addString network.webSocketPort 9000 --read network.webSocketPort")
           .prints("9000\n")
           .leaves("conf.json", R"({
   "network": {
@@ -69,26 +68,25 @@ std::vector<Case> order() {
     "webSocketPort": "9000"
   }
 })"),
-      Case("edit_of_a_missing_nested_key_saved_and_read_back")
-          .call({"--file", "conf.json", "--addString", "network.webSocketPort", "9000", "--read",
-                 "network.webSocketPort"})
+      ToolCall("edit_of_a_missing_nested_key_saved_and_read_back")
+          .call("--file conf.json --addString network.webSocketPort 9000 --read network.webSocketPort")
           .prints("9000\n")
           .leaves("conf.json", R"({
   "network": {
     "webSocketPort": "9000"
   }
 })"),
-      Case("reads_see_the_edits_of_a_file_that_cannot_be_saved")
-          .call({"-r", "k", "-f", "no/such/conf.json", "-as", "k", "v"})
+      ToolCall("reads_see_the_edits_of_a_file_that_cannot_be_saved")
+          .call("-r k -f no/such/conf.json -as k v")
           .prints("v\n")
           .reports("Could not write document: no/such/conf.json\n")
           .exits(1),
 
       // Both streams, in the order in which they are written.
-      Case("streams_edit_message_before_the_display")
+      ToolCall("streams_edit_message_before_the_display")
           .withMergedStreams()
           .given("conf.json", R"({"a":1})")
-          .call({"-r", "b", "-fd", "conf.json", "-ab", "k", "maybe"})
+          .call("-r b -fd conf.json -ab k maybe")
           .prints(R"(Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, maybe rejected.
 {
     "a": 1,
@@ -97,18 +95,18 @@ std::vector<Case> order() {
 --read error : Path "b" does not exist
 )")
           .leaves("conf.json", "{\n  \"a\": 1,\n  \"k\": null\n}"),
-      Case("streams_load_message_before_the_display")
+      ToolCall("streams_load_message_before_the_display")
           .withMergedStreams()
           .given("conf.json", "{")
-          .call({"-fd", "conf.json"})
+          .call("-fd conf.json")
           .prints("Could not parse json file conf.json\n{}\n"),
-      Case("streams_merge_message_before_the_display")
+      ToolCall("streams_merge_message_before_the_display")
           .withMergedStreams()
-          .call({"-af", "missing.json"})
+          .call("-af missing.json")
           .prints("Could not open document: missing.json\n{}\n"),
-      Case("streams_display_then_failed_save_then_read")
+      ToolCall("streams_display_then_failed_save_then_read")
           .withMergedStreams()
-          .call({"-fd", "no/such/conf.json", "-as", "k", "v", "-r", "k"})
+          .call("-fd no/such/conf.json -as k v -r k")
           .prints(R"({
     "k": "v"
 }
@@ -116,28 +114,28 @@ Could not write document: no/such/conf.json
 v
 )")
           .exits(1),
-      Case("streams_display_then_read_error")
+      ToolCall("streams_display_then_read_error")
           .withMergedStreams()
           .given("conf.json", R"({"a":1})")
-          .call({"-fd", "conf.json", "-r", "b"})
+          .call("-fd conf.json -r b")
           .prints("{\n    \"a\": 1\n}\n--read error : Path \"b\" does not exist\n"),
-      Case("streams_read_errors_before_the_gathered_reads")
+      ToolCall("streams_read_errors_before_the_gathered_reads")
           .withMergedStreams()
-          .call({"-r", "x", "-as", "k", "v", "-r", "k", "-r", "y"})
+          .call("-r x -as k v -r k -r y")
           .prints(R"(--read error : Path "x" does not exist
 --read error : Path "y" does not exist
 {
     "k": "v"
 }
 )"),
-      Case("streams_field_errors_before_the_line")
+      ToolCall("streams_field_errors_before_the_line")
           .withMergedStreams()
           .given("conf.json", R"({"l":[{"a":1},{"b":2}]})")
-          .call({"-f", "conf.json", "-roac", "l", "a"})
+          .call("-f conf.json -roac l a")
           .prints("--read error : Path \"a\" does not exist\n 1\n"),
-      Case("messages_of_load_merge_edit_and_save")
+      ToolCall("messages_of_load_merge_edit_and_save")
           .givenDirectory("folder")
-          .call({"-f", "folder", "-af", "missing.json", "-ab", "k", "maybe"})
+          .call("-f folder -af missing.json -ab k maybe")
           .reports(R"(Could not parse json file folder
 Could not open document: missing.json
 Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, maybe rejected.
@@ -147,42 +145,39 @@ Could not write document: folder
   };
 }
 
-std::vector<Case> displayAndSave() {
+std::vector<ToolCall> displayAndSave() {
   return {
       // Without a file.
-      Case("no_file_and_an_edit").call({"--addString", "k", "v"}).prints("{\n    \"k\": \"v\"\n}\n"),
-      Case("no_file_and_a_removal").call({"--remove", "k"}).prints("{}\n"),
-      Case("no_file_and_a_removal_of_nothing").call({"--remove", ""}).prints("{}\n"),
-      Case("no_file_and_a_read").call({"--read", "k"}).reports("--read error : Path \"k\" does not exist\n"),
-      Case("no_file_and_a_read_of_the_root").call({"--read", ""}).prints("{}\n"),
-      Case("no_file_and_an_edit_and_a_read").call({"-as", "k", "v", "-as", "l", "w", "--read", "k"}).prints("v\n"),
-      Case("no_file_and_a_removal_and_a_read")
-          .call({"-rm", "k", "-r", "k"})
+      ToolCall("no_file_and_an_edit").call("--addString k v").prints("{\n    \"k\": \"v\"\n}\n"),
+      ToolCall("no_file_and_a_removal").call("--remove k").prints("{}\n"),
+      ToolCall("no_file_and_a_removal_of_nothing").call({"--remove", ""}).prints("{}\n"),
+      ToolCall("no_file_and_a_read").call("--read k").reports("--read error : Path \"k\" does not exist\n"),
+      ToolCall("no_file_and_a_read_of_the_root").call({"--read", ""}).prints("{}\n"),
+      ToolCall("no_file_and_an_edit_and_a_read").call("-as k v -as l w --read k").prints("v\n"),
+      ToolCall("no_file_and_a_removal_and_a_read")
+          .call("-rm k -r k")
           .reports("--read error : Path \"k\" does not exist\n"),
-      Case("no_file_and_two_reads").call({"-as", "k", "v", "-an", "l", "1", "-r", "k", "-r", "l"}).prints(R"({
+      ToolCall("no_file_and_two_reads").call("-as k v -an l 1 -r k -r l").prints(R"({
     "k": "v",
     "l": "1"
 }
 )"),
 
       // With a file that is only looked at: it stays byte for byte.
-      Case("file_alone")
+      ToolCall("file_alone")
           .given("conf.json", "{\"a\" : 1}\n")
-          .call({"--file", "conf.json"})
+          .call("--file conf.json")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("file_display_alone")
+      ToolCall("file_display_alone")
           .given("conf.json", "{\"a\" : 1}\n")
-          .call({"--fileDisplay", "conf.json"})
+          .call("--fileDisplay conf.json")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("file_and_a_read")
+      ToolCall("file_and_a_read").given("conf.json", "{\"a\" : 1}\n").call("--file conf.json -r a").prints("1\n"),
+      ToolCall("file_and_a_failing_read")
           .given("conf.json", "{\"a\" : 1}\n")
-          .call({"--file", "conf.json", "-r", "a"})
-          .prints("1\n"),
-      Case("file_and_a_failing_read")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call({"--file", "conf.json", "-r", "b"})
+          .call("--file conf.json -r b")
           .reports("--read error : Path \"b\" does not exist\n"),
-      Case("file_and_two_reads")
+      ToolCall("file_and_two_reads")
           .given("conf.json", R"({"a":1})")
           .call({"-f", "conf.json", "-r", "a", "-r", ""})
           .prints(R"({
@@ -190,13 +185,13 @@ std::vector<Case> displayAndSave() {
     "": "{\"a\":1}"
 }
 )"),
-      Case("file_display_and_a_read")
+      ToolCall("file_display_and_a_read")
           .given("conf.json", "{\"a\" : 1}\n")
-          .call({"--fileDisplay", "conf.json", "--read", "a"})
+          .call("--fileDisplay conf.json --read a")
           .prints("{\n    \"a\": 1\n}\n1\n"),
-      Case("file_display_and_two_reads")
+      ToolCall("file_display_and_two_reads")
           .given("conf.json", R"({"a":1,"b":[]})")
-          .call({"-r", "a", "-fd", "conf.json", "-r", "b"})
+          .call("-r a -fd conf.json -r b")
           .prints(R"({
     "a": 1,
     "b": []
@@ -206,243 +201,238 @@ std::vector<Case> displayAndSave() {
     "b": "[]"
 }
 )"),
-      Case("file_that_holds_an_array").given("conf.json", "[1,{}]").call({"-f", "conf.json"}).prints(R"([
+      ToolCall("file_that_holds_an_array").given("conf.json", "[1,{}]").call("-f conf.json").prints(R"([
     1,
     {}
 ]
 )"),
-      Case("file_that_holds_an_empty_array").given("conf.json", "[]").call({"-f", "conf.json"}).prints("[]\n"),
-      Case("file_that_holds_a_string").given("conf.json", R"("text")").call({"-f", "conf.json"}).prints("\"text\"\n"),
-      Case("file_that_holds_null").given("conf.json", "null").call({"-f", "conf.json"}).prints("null\n"),
+      ToolCall("file_that_holds_an_empty_array").given("conf.json", "[]").call("-f conf.json").prints("[]\n"),
+      ToolCall("file_that_holds_a_string").given("conf.json", R"("text")").call("-f conf.json").prints("\"text\"\n"),
+      ToolCall("file_that_holds_null").given("conf.json", "null").call("-f conf.json").prints("null\n"),
 
       // With a file that is changed: it is saved, and shown only on demand.
-      Case("file_and_an_edit")
+      ToolCall("file_and_an_edit")
           .given("conf.json", R"({"a":1})")
-          .call({"--file", "conf.json", "-an", "b", "2"})
+          .call("--file conf.json -an b 2")
           .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      Case("file_and_an_edit_and_a_read")
+      ToolCall("file_and_an_edit_and_a_read")
           .given("conf.json", R"({"a":1})")
-          .call({"--file", "conf.json", "-an", "b", "2", "-r", "b"})
+          .call("--file conf.json -an b 2 -r b")
           .prints("2\n")
           .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      Case("file_and_an_edit_and_a_failing_read")
+      ToolCall("file_and_an_edit_and_a_failing_read")
           .given("conf.json", R"({"a":1})")
-          .call({"--file", "conf.json", "-an", "b", "2", "-r", "c"})
+          .call("--file conf.json -an b 2 -r c")
           .reports("--read error : Path \"c\" does not exist\n")
           .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      Case("file_display_and_an_edit")
+      ToolCall("file_display_and_an_edit")
           .given("conf.json", R"({"a":1})")
-          .call({"--fileDisplay", "conf.json", "-an", "b", "2"})
+          .call("--fileDisplay conf.json -an b 2")
           .prints("{\n    \"a\": 1,\n    \"b\": 2\n}\n")
           .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      Case("file_display_and_an_edit_and_a_read")
+      ToolCall("file_display_and_an_edit_and_a_read")
           .given("conf.json", R"({"a":1})")
-          .call({"--fileDisplay", "conf.json", "-an", "b", "2", "-r", "b"})
+          .call("--fileDisplay conf.json -an b 2 -r b")
           .prints("{\n    \"a\": 1,\n    \"b\": 2\n}\n2\n")
           .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      Case("file_and_a_removal")
+      ToolCall("file_and_a_removal")
           .given("conf.json", R"({"a":1,"b":2})")
-          .call({"--file", "conf.json", "-rm", "b"})
+          .call("--file conf.json -rm b")
           .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      Case("file_and_a_removal_and_a_read")
+      ToolCall("file_and_a_removal_and_a_read")
           .given("conf.json", R"({"a":1,"b":2})")
-          .call({"--file", "conf.json", "-rm", "b", "-r", "a"})
+          .call("--file conf.json -rm b -r a")
           .prints("1\n")
           .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      Case("file_and_a_removal_of_the_last_member")
+      ToolCall("file_and_a_removal_of_the_last_member")
           .given("conf.json", R"({"a":1})")
-          .call({"--file", "conf.json", "-rm", "a"})
+          .call("--file conf.json -rm a")
           .leaves("conf.json", "{}"),
 
       // Any edit counts as a change, even one without effect.
-      Case("edit_to_the_same_value_rewrites_the_file")
+      ToolCall("edit_to_the_same_value_rewrites_the_file")
           .given("conf.json", "{\"a\" : 1}\n")
-          .call({"-f", "conf.json", "-an", "a", "1"})
+          .call("-f conf.json -an a 1")
           .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      Case("merge_of_a_missing_file_rewrites_the_file")
+      ToolCall("merge_of_a_missing_file_rewrites_the_file")
           .given("conf.json", "{\"a\" : 1}\n")
-          .call({"-f", "conf.json", "-af", "missing.json"})
+          .call("-f conf.json -af missing.json")
           .reports("Could not open document: missing.json\n")
           .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      Case("merge_of_a_broken_file_rewrites_the_file")
+      ToolCall("merge_of_a_broken_file_rewrites_the_file")
           .given("conf.json", "{\"a\" : 1}\n")
           .given("more.json", R"({"b":2,)")
-          .call({"-f", "conf.json", "-af", "more.json"})
+          .call("-f conf.json -af more.json")
           .reports("Could not parse json file more.json\n")
           .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      Case("rejected_boolean_for_a_null_rewrites_the_file")
+      ToolCall("rejected_boolean_for_a_null_rewrites_the_file")
           .given("conf.json", "{\"a\" : null}\n")
-          .call({"-f", "conf.json", "-ab", "a", "maybe"})
+          .call("-f conf.json -ab a maybe")
           .reports(R"(Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, maybe rejected.
 Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, maybe rejected.
 )")
           .leaves("conf.json", "{\n  \"a\": null\n}"),
-      Case("failed_removal_beside_an_edit_saves")
+      ToolCall("failed_removal_beside_an_edit_saves")
           .given("conf.json", R"({"a":1})")
-          .call({"-f", "conf.json", "-rm", "missing", "-an", "b", "2"})
+          .call("-f conf.json -rm missing -an b 2")
           .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
 
       // Removals count as a change only when every one of them succeeds.
-      Case("failed_removal_shows_and_saves_nothing")
+      ToolCall("failed_removal_shows_and_saves_nothing")
           .given("conf.json", "{\"a\" : 1}\n")
-          .call({"--file", "conf.json", "--remove", "missing"})
+          .call("--file conf.json --remove missing")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("failed_removal_is_displayed_once")
+      ToolCall("failed_removal_is_displayed_once")
           .given("conf.json", "{\"a\" : 1}\n")
-          .call({"--fileDisplay", "conf.json", "--remove", "missing"})
+          .call("--fileDisplay conf.json --remove missing")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("failed_removal_behind_a_good_one_keeps_the_file")
+      ToolCall("failed_removal_behind_a_good_one_keeps_the_file")
           .given("conf.json", R"({"a":1,"b":2})")
-          .call({"-f", "conf.json", "-rm", "b", "-rm", "missing"})
+          .call("-f conf.json -rm b -rm missing")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("failed_removal_before_a_good_one_keeps_the_file")
+      ToolCall("failed_removal_before_a_good_one_keeps_the_file")
           .given("conf.json", R"({"a":1,"b":2})")
-          .call({"-f", "conf.json", "-rm", "missing", "-rm", "b"})
+          .call("-f conf.json -rm missing -rm b")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("second_removal_of_the_same_key_keeps_the_file")
+      ToolCall("second_removal_of_the_same_key_keeps_the_file")
           .given("conf.json", R"({"a":1,"b":2})")
-          .call({"-f", "conf.json", "-rm", "b", "-rm", "b"})
+          .call("-f conf.json -rm b -rm b")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("failed_removal_and_a_read_show_the_read_alone")
+      ToolCall("failed_removal_and_a_read_show_the_read_alone")
           .given("conf.json", R"({"a":1,"b":2})")
           .call({"-f", "conf.json", "-rm", "b", "-rm", "missing", "-r", ""})
           .prints("{\"a\":1}\n"),
-      Case("removal_of_a_missing_nested_key_rewrites_the_file")
+      ToolCall("removal_of_a_missing_nested_key_rewrites_the_file")
           .given("conf.json", "{\"a\" : {}}\n")
-          .call({"-f", "conf.json", "-rm", "a.missing"})
+          .call("-f conf.json -rm a.missing")
           .leaves("conf.json", "{\n  \"a\": {}\n}"),
-      Case("removal_with_an_empty_key_path_rewrites_the_file")
+      ToolCall("removal_with_an_empty_key_path_rewrites_the_file")
           .given("conf.json", "{\"a\" : 1}\n")
           .call({"-f", "conf.json", "-rm", ""})
           .leaves("conf.json", "{\n  \"a\": 1\n}"),
 
       // A file that does not exist yet.
-      Case("missing_file_and_an_edit")
-          .call({"--file", "conf.json", "--addString", "k", "v"})
+      ToolCall("missing_file_and_an_edit")
+          .call("--file conf.json --addString k v")
           .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
-      Case("missing_file_for_display_and_an_edit")
-          .call({"--fileDisplay", "conf.json", "--addString", "k", "v"})
+      ToolCall("missing_file_for_display_and_an_edit")
+          .call("--fileDisplay conf.json --addString k v")
           .prints("{\n    \"k\": \"v\"\n}\n")
           .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
-      Case("missing_file_alone_is_not_made").call({"--file", "conf.json"}).prints("{}\n"),
-      Case("missing_file_for_display_is_not_made").call({"--fileDisplay", "conf.json"}).prints("{}\n"),
-      Case("missing_file_and_a_read")
-          .call({"--file", "conf.json", "-r", "k"})
+      ToolCall("missing_file_alone_is_not_made").call("--file conf.json").prints("{}\n"),
+      ToolCall("missing_file_for_display_is_not_made").call("--fileDisplay conf.json").prints("{}\n"),
+      ToolCall("missing_file_and_a_read")
+          .call("--file conf.json -r k")
           .reports("--read error : Path \"k\" does not exist\n"),
-      Case("missing_file_and_a_failed_removal_is_not_made").call({"-f", "conf.json", "-rm", "k"}).prints("{}\n"),
-      Case("missing_file_and_a_nested_removal_is_made")
-          .call({"-f", "conf.json", "-rm", "a.k"})
-          .leaves("conf.json", "{}"),
-      Case("missing_file_and_a_merge_of_a_missing_file_is_made")
-          .call({"-f", "conf.json", "-af", "missing.json"})
+      ToolCall("missing_file_and_a_failed_removal_is_not_made").call("-f conf.json -rm k").prints("{}\n"),
+      ToolCall("missing_file_and_a_nested_removal_is_made").call("-f conf.json -rm a.k").leaves("conf.json", "{}"),
+      ToolCall("missing_file_and_a_merge_of_a_missing_file_is_made")
+          .call("-f conf.json -af missing.json")
           .reports("Could not open document: missing.json\n")
           .leaves("conf.json", "{}"),
   };
 }
 
-std::vector<Case> failures() {
+std::vector<ToolCall> failures() {
   return {
       // A file that does not parse is an empty object, and is overwritten only by a change.
-      Case("broken_file_and_an_edit")
+      ToolCall("broken_file_and_an_edit")
           .given("conf.json", R"({"a":1,)")
-          .call({"--file", "conf.json", "--addString", "k", "v"})
+          .call("--file conf.json --addString k v")
           .reports("Could not parse json file conf.json\n")
           .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
-      Case("broken_file_alone")
+      ToolCall("broken_file_alone")
           .given("conf.json", R"({"a":1,)")
-          .call({"--file", "conf.json"})
+          .call("--file conf.json")
           .prints("{}\n")
           .reports("Could not parse json file conf.json\n"),
-      Case("broken_file_for_display")
+      ToolCall("broken_file_for_display")
           .given("conf.json", R"({"a":1}})")
-          .call({"--fileDisplay", "conf.json"})
+          .call("--fileDisplay conf.json")
           .prints("{}\n")
           .reports("Could not parse json file conf.json\n"),
-      Case("broken_file_and_a_read")
+      ToolCall("broken_file_and_a_read")
           .given("conf.json", R"({"a":1} x)")
-          .call({"--file", "conf.json", "-r", "a"})
+          .call("--file conf.json -r a")
           .reports("Could not parse json file conf.json\n--read error : Path \"a\" does not exist\n"),
-      Case("broken_file_and_a_failed_removal")
+      ToolCall("broken_file_and_a_failed_removal")
           .given("conf.json", R"({"a":1} x)")
-          .call({"--file", "conf.json", "-rm", "a"})
+          .call("--file conf.json -rm a")
           .prints("{}\n")
           .reports("Could not parse json file conf.json\n"),
-      Case("broken_array_leaves_an_object")
+      ToolCall("broken_array_leaves_an_object")
           .given("conf.json", "[1,2")
-          .call({"-fd", "conf.json", "-as", "k", "v"})
+          .call("-fd conf.json -as k v")
           .prints("{\n    \"k\": \"v\"\n}\n")
           .reports("Could not parse json file conf.json\n")
           .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
-      Case("empty_file_and_an_edit")
+      ToolCall("empty_file_and_an_edit")
           .given("conf.json", "")
-          .call({"-f", "conf.json", "-as", "k", "v"})
+          .call("-f conf.json -as k v")
           .reports("Could not parse json file conf.json\n")
           .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
 
       // A failed save gives status 1 and stops nothing.
-      Case("failed_save")
-          .call({"--file", "no/such/conf.json", "-as", "k", "v"})
+      ToolCall("failed_save")
+          .call("--file no/such/conf.json -as k v")
           .reports("Could not write document: no/such/conf.json\n")
           .exits(1),
-      Case("failed_save_after_the_display")
-          .call({"--fileDisplay", "no/such/conf.json", "-as", "k", "v"})
+      ToolCall("failed_save_after_the_display")
+          .call("--fileDisplay no/such/conf.json -as k v")
           .prints("{\n    \"k\": \"v\"\n}\n")
           .reports("Could not write document: no/such/conf.json\n")
           .exits(1),
-      Case("failed_save_before_a_failing_read")
-          .call({"--file", "no/such/conf.json", "-as", "k", "v", "-r", "l"})
+      ToolCall("failed_save_before_a_failing_read")
+          .call("--file no/such/conf.json -as k v -r l")
           .reports("Could not write document: no/such/conf.json\n--read error : Path \"l\" does not exist\n")
           .exits(1),
-      Case("failed_save_after_a_removal")
-          .call({"--file", "no/such/conf.json", "-rm", "a.b"})
+      ToolCall("failed_save_after_a_removal")
+          .call("--file no/such/conf.json -rm a.b")
           .reports("Could not write document: no/such/conf.json\n")
           .exits(1),
-      Case("path_that_cannot_be_saved_is_no_failure_without_a_change")
-          .call({"--file", "no/such/conf.json"})
+      ToolCall("path_that_cannot_be_saved_is_no_failure_without_a_change")
+          .call("--file no/such/conf.json")
           .prints("{}\n"),
 
       // Nothing else gives a status of its own.
-      Case("failed_removals_and_reads_are_a_success")
-          .call({"-rm", "a", "-r", "b", "-r", "c"})
+      ToolCall("failed_removals_and_reads_are_a_success")
+          .call("-rm a -r b -r c")
           .prints("{}\n")
           .reports("--read error : Path \"b\" does not exist\n--read error : Path \"c\" does not exist\n"),
 
       // A clash of types and a bad number end the call before anything is shown or saved.
-      Case("clash_of_types")
+      ToolCall("clash_of_types")
           .given("conf.json", R"({"a":"text"})")
-          .call({"-fd", "conf.json", "-as", "a.b", "v", "-r", "a"})
+          .call("-fd conf.json -as a.b v -r a")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("clash_of_types_before_a_later_edit")
+      ToolCall("clash_of_types_before_a_later_edit")
           .given("conf.json", R"({"a":"text"})")
-          .call({"-f", "conf.json", "-as", "a.b", "v", "-af", "missing.json"})
+          .call("-f conf.json -as a.b v -af missing.json")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("clash_of_types_behind_an_earlier_edit")
+      ToolCall("clash_of_types_behind_an_earlier_edit")
           .given("conf.json", R"({"a":"text"})")
-          .call({"-f", "conf.json", "-as", "k", "v", "-as", "a.b", "v"})
+          .call("-f conf.json -as k v -as a.b v")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("bad_number")
-          .given("conf.json", R"({"a":1})")
-          .call({"-fd", "conf.json", "-as", "k", "v", "-an", "a", "abc", "-r", "k"})
-          .aborts(),
-      Case("merged_file_that_holds_no_object")
+      ToolCall("bad_number").given("conf.json", R"({"a":1})").call("-fd conf.json -as k v -an a abc -r k").aborts(),
+      ToolCall("merged_file_that_holds_no_object")
           .given("conf.json", R"({"a":1})")
           .given("more.json", "[1]")
-          .call({"-fd", "conf.json", "-as", "k", "v", "-af", "more.json", "-r", "k"})
+          .call("-fd conf.json -as k v -af more.json -r k")
           .aborts("IsObject()"),
-      Case("bad_number_behind_a_message")
+      ToolCall("bad_number_behind_a_message")
           .given("conf.json", "{")
-          .call({"-f", "conf.json", "-an", "a", "2147483648"})
+          .call("-f conf.json -an a 2147483648")
           .reports("Could not parse json file conf.json\n")
           .aborts(),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(RunOrder, ToolCall, testing::ValuesIn(order()), rowName);
-INSTANTIATE_TEST_SUITE_P(RunDisplayAndSave, ToolCall, testing::ValuesIn(displayAndSave()), rowName);
-INSTANTIATE_TEST_SUITE_P(RunFailures, ToolCall, testing::ValuesIn(failures()), rowName);
+const Table kRunOrder("RunOrder", order);
+const Table kRunDisplayAndSave("RunDisplayAndSave", displayAndSave);
+const Table kRunFailures("RunFailures", failures);
 
 }  // namespace
 }  // namespace kovalt::test

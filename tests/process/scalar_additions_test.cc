@@ -1,6 +1,6 @@
 // Additions of strings, numbers, booleans and empty objects.
 
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -10,146 +10,146 @@ std::string rejected(const std::string& value) {
   return "Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, " + value + " rejected.\n";
 }
 
-std::vector<Case> stringRows() {
+std::vector<ToolCall> stringRows() {
   return {
-      Case("string").call({"--addString", "key", "value"}).prints("{\n    \"key\": \"value\"\n}\n"),
-      Case("string_short_form").call({"-as", "key", "value"}).prints("{\n    \"key\": \"value\"\n}\n"),
-      Case("string_under_missing_objects")
+      ToolCall("string").call("--addString key value").prints("{\n    \"key\": \"value\"\n}\n"),
+      ToolCall("string_short_form").call("-as key value").prints("{\n    \"key\": \"value\"\n}\n"),
+      ToolCall("string_under_missing_objects")
           .call({"--addString", "object1.object2.stringKey", "stringValue", "--read", ""})
           .prints("{\"object1\":{\"object2\":{\"stringKey\":\"stringValue\"}}}\n"),
-      Case("string_into_a_file_with_a_read")
+      ToolCall("string_into_a_file_with_a_read")
           .given("conf.json", R"({"network":{"port":1}})")
-          .call({"--file", "conf.json", "--addString", "network.webSocketPort", "9000", "--read",
-                 "network.webSocketPort"})
+          .call("--file conf.json --addString network.webSocketPort 9000 --read network.webSocketPort")
           .prints("9000\n")
           .leaves("conf.json", "{\n  \"network\": {\n    \"port\": 1,\n    \"webSocketPort\": \"9000\"\n  }\n}"),
-      Case("empty_string").call({"--addString", "k", ""}).prints("{\n    \"k\": \"\"\n}\n"),
-      Case("string_of_digits_stays_a_string").call({"-as", "k", "12", "-r", ""}).prints("{\"k\":\"12\"}\n"),
-      Case("string_true_stays_a_string").call({"-as", "k", "TRUE", "-r", ""}).prints("{\"k\":\"TRUE\"}\n"),
-      Case("string_with_commas_is_not_split").call({"-as", "k", "a,b", "-r", ""}).prints("{\"k\":\"a,b\"}\n"),
-      Case("string_that_looks_like_an_option").call({"-as", "k", "-as", "-r", ""}).prints("{\"k\":\"-as\"}\n"),
-      Case("string_value_is_not_decoded")
+      ToolCall("empty_string").call({"--addString", "k", ""}).prints("{\n    \"k\": \"\"\n}\n"),
+      ToolCall("string_of_digits_stays_a_string").call({"-as", "k", "12", "-r", ""}).prints("{\"k\":\"12\"}\n"),
+      ToolCall("string_true_stays_a_string").call({"-as", "k", "TRUE", "-r", ""}).prints("{\"k\":\"TRUE\"}\n"),
+      ToolCall("string_with_commas_is_not_split").call({"-as", "k", "a,b", "-r", ""}).prints("{\"k\":\"a,b\"}\n"),
+      ToolCall("string_that_looks_like_an_option").call({"-as", "k", "-as", "-r", ""}).prints("{\"k\":\"-as\"}\n"),
+      ToolCall("string_value_is_not_decoded")
           .call({"-as", "k", "a\\n\\u0041", "-r", ""})
           .prints("{\"k\":\"a\\\\n\\\\u0041\"}\n"),
-      Case("string_value_is_escaped_when_printed")
+      ToolCall("string_value_is_escaped_when_printed")
           .call({"-as", "k", "\"\\/\n\r\t\b\f\x01\x1F\x7F", "-r", ""})
           .prints("{\"k\":\"\\\"\\\\/\\n\\r\\t\\b\\f\\u0001\\u001F\x7F\"}\n"),
-      Case("string_value_keeps_bytes_above_ascii")
+      ToolCall("string_value_keeps_bytes_above_ascii")
           .call({"-as", "k", "\xC3\xA9\xFF", "-r", ""})
           .prints("{\"k\":\"\xC3\xA9\xFF\"}\n"),
-      Case("string_replaces_a_string")
+      ToolCall("string_replaces_a_string")
           .given("f.json", R"({"k":"old","l":1})")
-          .call({"--file", "f.json", "--addString", "k", "new"})
+          .call("--file f.json --addString k new")
           .leaves("f.json", "{\n  \"k\": \"new\",\n  \"l\": 1\n}"),
-      Case("string_replaces_an_object")
+      ToolCall("string_replaces_an_object")
           .given("f.json", R"({"key":{"a":1}})")
-          .call({"--file", "f.json", "--addString", "key", "x"})
+          .call("--file f.json --addString key x")
           .leaves("f.json", "{\n  \"key\": \"x\"\n}"),
-      Case("string_replaces_an_array")
+      ToolCall("string_replaces_an_array")
           .given("f.json", R"({"key":["a"]})")
-          .call({"--file", "f.json", "--addString", "key", "x"})
+          .call("--file f.json --addString key x")
           .leaves("f.json", "{\n  \"key\": \"x\"\n}"),
-      Case("string_replaces_null")
+      ToolCall("string_replaces_null")
           .given("f.json", R"({"key":null})")
-          .call({"--file", "f.json", "--addString", "key", "x"})
+          .call("--file f.json --addString key x")
           .leaves("f.json", "{\n  \"key\": \"x\"\n}"),
-      Case("string_replaces_a_root_object")
+      ToolCall("string_replaces_a_root_object")
           .given("f.json", R"({"key":1})")
           .call({"--file", "f.json", "--addString", "", "x"})
           .leaves("f.json", "\"x\""),
-      Case("string_below_a_string_clashes")
+      ToolCall("string_below_a_string_clashes")
           .given("f.json", R"({"a":"s"})")
-          .call({"--file", "f.json", "--addString", "a.b", "x"})
+          .call("--file f.json --addString a.b x")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("string_below_an_array_clashes")
+      ToolCall("string_below_an_array_clashes")
           .given("f.json", R"({"items":["s"]})")
-          .call({"--file", "f.json", "--addString", "items.0", "x"})
+          .call("--file f.json --addString items.0 x")
           .reports("Incompatible types for key items\n")
           .exits(1),
-      Case("string_below_null_clashes")
+      ToolCall("string_below_null_clashes")
           .given("f.json", R"({"a":null})")
-          .call({"--file", "f.json", "--addString", "a.b", "x"})
+          .call("--file f.json --addString a.b x")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("clash_names_the_member_at_its_level")
+      ToolCall("clash_names_the_member_at_its_level")
           .given("f.json", R"({"a":{"b":{"c":1}}})")
-          .call({"--file", "f.json", "--addString", "a.b.c.d.e", "x"})
+          .call("--file f.json --addString a.b.c.d.e x")
           .reports("Incompatible types for key c\n")
           .exits(1),
-      Case("clash_ends_the_call_at_once")
+      ToolCall("clash_ends_the_call_at_once")
           .given("f.json", R"({"a":"s"})")
-          .call({"--fileDisplay", "f.json", "--addString", "n", "1", "--addString", "a.b", "x", "--addNumber", "n",
-                 "abc", "--read", "a", "--remove", "n"})
+          .call("--fileDisplay f.json --addString n 1 --addString a.b x --addNumber n abc --read a --remove n")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("additions_run_in_their_order")
+      ToolCall("additions_run_in_their_order")
           .call({"-as", "k", "one", "-an", "k", "2", "-as", "k", "three", "-r", ""})
           .prints("{\"k\":\"three\"}\n"),
-      Case("value_of_another_type_replaces_an_earlier_addition")
+      ToolCall("value_of_another_type_replaces_an_earlier_addition")
           .call({"-as", "k", "one", "-an", "k", "2", "-r", ""})
           .prints("{\"k\":2}\n"),
-      Case("everything_runs_in_its_fixed_order")
+      ToolCall("everything_runs_in_its_fixed_order")
           .call({"--read", "a", "--remove", "b", "--addString", "a", "x", "--addString", "b", "y", "--read", ""})
           .prints("{\n    \"a\": \"x\",\n    \"\": \"{\\\"a\\\":\\\"x\\\"}\"\n}\n"),
   };
 }
 
-std::vector<Case> numberRows() {
+std::vector<ToolCall> numberRows() {
   return {
-      Case("number").call({"--addNumber", "key", "666"}).prints("{\n    \"key\": 666\n}\n"),
-      Case("number_short_form").call({"-an", "key", "666"}).prints("{\n    \"key\": 666\n}\n"),
-      Case("negative_number").call({"--addNumber", "k", "-5", "-r", ""}).prints("{\"k\":-5}\n"),
-      Case("number_with_a_plus_sign").call({"--addNumber", "k", "+7", "-r", ""}).prints("{\"k\":7}\n"),
-      Case("number_with_leading_whitespace")
+      ToolCall("number").call("--addNumber key 666").prints("{\n    \"key\": 666\n}\n"),
+      ToolCall("number_short_form").call("-an key 666").prints("{\n    \"key\": 666\n}\n"),
+      ToolCall("negative_number").call({"--addNumber", "k", "-5", "-r", ""}).prints("{\"k\":-5}\n"),
+      ToolCall("number_with_a_plus_sign").call({"--addNumber", "k", "+7", "-r", ""}).prints("{\"k\":7}\n"),
+      ToolCall("number_with_leading_whitespace")
           .call({"--addNumber", "k", " \t\n\v\f\r42", "-r", ""})
           .prints("{\"k\":42}\n"),
-      Case("number_with_whitespace_and_a_sign").call({"--addNumber", "k", "  -42", "-r", ""}).prints("{\"k\":-42}\n"),
-      Case("number_stops_at_a_letter").call({"--addNumber", "k", "12abc", "-r", ""}).prints("{\"k\":12}\n"),
-      Case("number_stops_at_a_point").call({"--addNumber", "k", "3.9", "-r", ""}).prints("{\"k\":3}\n"),
-      Case("negative_number_stops_at_a_point").call({"--addNumber", "k", "-3.9", "-r", ""}).prints("{\"k\":-3}\n"),
-      Case("number_is_not_hexadecimal").call({"--addNumber", "k", "0x1F", "-r", ""}).prints("{\"k\":0}\n"),
-      Case("number_is_not_octal").call({"--addNumber", "k", "010", "-r", ""}).prints("{\"k\":10}\n"),
-      Case("number_has_no_exponent").call({"--addNumber", "k", "1e3", "-r", ""}).prints("{\"k\":1}\n"),
-      Case("number_stops_at_a_space").call({"--addNumber", "k", "1 2", "-r", ""}).prints("{\"k\":1}\n"),
-      Case("number_minus_zero").call({"--addNumber", "k", "-0", "-r", ""}).prints("{\"k\":0}\n"),
-      Case("largest_number").call({"--addNumber", "k", "2147483647", "-r", ""}).prints("{\"k\":2147483647}\n"),
-      Case("smallest_number").call({"--addNumber", "k", "-2147483648", "-r", ""}).prints("{\"k\":-2147483648}\n"),
-      Case("number_above_the_range").call({"--addNumber", "k", "2147483648"}).aborts(),
-      Case("number_below_the_range").call({"--addNumber", "k", "-2147483649"}).aborts(),
-      Case("number_far_above_the_range").call({"--addNumber", "k", "99999999999999999999"}).aborts(),
-      Case("number_without_digits").call({"--addNumber", "k", "abc"}).aborts(),
-      Case("empty_number").call({"--addNumber", "k", ""}).aborts(),
-      Case("number_of_a_sign_alone").call({"--addNumber", "k", "-"}).aborts(),
-      Case("number_with_two_signs").call({"--addNumber", "k", "--5"}).aborts(),
-      Case("number_of_whitespace").call({"--addNumber", "k", " "}).aborts(),
-      Case("bad_number_for_an_existing_key")
+      ToolCall("number_with_whitespace_and_a_sign")
+          .call({"--addNumber", "k", "  -42", "-r", ""})
+          .prints("{\"k\":-42}\n"),
+      ToolCall("number_stops_at_a_letter").call({"--addNumber", "k", "12abc", "-r", ""}).prints("{\"k\":12}\n"),
+      ToolCall("number_stops_at_a_point").call({"--addNumber", "k", "3.9", "-r", ""}).prints("{\"k\":3}\n"),
+      ToolCall("negative_number_stops_at_a_point").call({"--addNumber", "k", "-3.9", "-r", ""}).prints("{\"k\":-3}\n"),
+      ToolCall("number_is_not_hexadecimal").call({"--addNumber", "k", "0x1F", "-r", ""}).prints("{\"k\":0}\n"),
+      ToolCall("number_is_not_octal").call({"--addNumber", "k", "010", "-r", ""}).prints("{\"k\":10}\n"),
+      ToolCall("number_has_no_exponent").call({"--addNumber", "k", "1e3", "-r", ""}).prints("{\"k\":1}\n"),
+      ToolCall("number_stops_at_a_space").call({"--addNumber", "k", "1 2", "-r", ""}).prints("{\"k\":1}\n"),
+      ToolCall("number_minus_zero").call({"--addNumber", "k", "-0", "-r", ""}).prints("{\"k\":0}\n"),
+      ToolCall("largest_number").call({"--addNumber", "k", "2147483647", "-r", ""}).prints("{\"k\":2147483647}\n"),
+      ToolCall("smallest_number").call({"--addNumber", "k", "-2147483648", "-r", ""}).prints("{\"k\":-2147483648}\n"),
+      ToolCall("number_above_the_range").call("--addNumber k 2147483648").aborts(),
+      ToolCall("number_below_the_range").call("--addNumber k -2147483649").aborts(),
+      ToolCall("number_far_above_the_range").call("--addNumber k 99999999999999999999").aborts(),
+      ToolCall("number_without_digits").call("--addNumber k abc").aborts(),
+      ToolCall("empty_number").call({"--addNumber", "k", ""}).aborts(),
+      ToolCall("number_of_a_sign_alone").call("--addNumber k -").aborts(),
+      ToolCall("number_with_two_signs").call("--addNumber k --5").aborts(),
+      ToolCall("number_of_whitespace").call({"--addNumber", "k", " "}).aborts(),
+      ToolCall("bad_number_for_an_existing_key")
           .given("f.json", R"({"k":1})")
-          .call({"--file", "f.json", "--addNumber", "k", "abc"})
+          .call("--file f.json --addNumber k abc")
           .aborts(),
-      Case("bad_number_ends_before_any_output")
+      ToolCall("bad_number_ends_before_any_output")
           .given("f.json", R"({"k":1})")
-          .call({"--fileDisplay", "f.json", "--addString", "l", "v", "--addNumber", "n", "x", "--read", "k"})
+          .call("--fileDisplay f.json --addString l v --addNumber n x --read k")
           .aborts(),
-      Case("bad_number_counts_only_in_its_turn")
-          .call({"--addBoolean", "b", "maybe", "--addNumber", "n", "x"})
+      ToolCall("bad_number_counts_only_in_its_turn")
+          .call("--addBoolean b maybe --addNumber n x")
           .reports(rejected("maybe"))
           .aborts(),
-      Case("bad_number_is_not_converted_while_parsing")
-          .call({"--addNumber", "n", "x", "stray"})
+      ToolCall("bad_number_is_not_converted_while_parsing")
+          .call("--addNumber n x stray")
           .prints("Error: invalid argument stray\n")
           .exits(1),
-      Case("number_replaces_a_floating_number")
+      ToolCall("number_replaces_a_floating_number")
           .given("f.json", R"({"k":1.5})")
-          .call({"--file", "f.json", "--addNumber", "k", "2"})
+          .call("--file f.json --addNumber k 2")
           .leaves("f.json", "{\n  \"k\": 2\n}"),
-      Case("number_replaces_an_array")
+      ToolCall("number_replaces_an_array")
           .given("f.json", R"({"k":[1]})")
-          .call({"--file", "f.json", "--addNumber", "k", "2"})
+          .call("--file f.json --addNumber k 2")
           .leaves("f.json", "{\n  \"k\": 2\n}"),
-      Case("number_in_a_selected_object")
+      ToolCall("number_in_a_selected_object")
           .given("f.json", R"({"pools":[{"names":["W"],"max":1},{"names":["X","Y"],"max":1}]})")
-          .call({"--file", "f.json", "--addNumber", "pools.names=X.max", "5", "--read", "pools.names=X.max"})
+          .call("--file f.json --addNumber pools.names=X.max 5 --read pools.names=X.max")
           .prints("5\n")
           .leaves("f.json", R"({
   "pools": [
@@ -168,21 +168,21 @@ std::vector<Case> numberRows() {
     }
   ]
 })"),
-      Case("number_behind_a_failed_selection_clashes")
+      ToolCall("number_behind_a_failed_selection_clashes")
           .given("f.json", R"({"pools":[{"names":["W"]}]})")
-          .call({"--file", "f.json", "--addNumber", "pools.names=X.max", "5"})
+          .call("--file f.json --addNumber pools.names=X.max 5")
           .reports("Kovalt path not found with refKey=refValue \"names=X\"\nIncompatible types for key pools\n")
           .exits(1),
-      Case("number_at_the_root").call({"--addNumber", "", "5"}).prints("5\n"),
+      ToolCall("number_at_the_root").call({"--addNumber", "", "5"}).prints("5\n"),
   };
 }
 
-std::vector<Case> booleanRows() {
+std::vector<ToolCall> booleanRows() {
   return {
-      Case("boolean").call({"--addBoolean", "k", "true"}).prints("{\n    \"k\": true\n}\n"),
-      Case("boolean_short_form").call({"-ab", "k", "false"}).prints("{\n    \"k\": false\n}\n"),
-      Case("boolean_words_and_digits")
-          .call({"-ab", "k1", "true", "-ab", "k2", "1", "-ab", "k3", "FalSe", "-ab", "k4", "0", "-ab", "k5", "hello"})
+      ToolCall("boolean").call("--addBoolean k true").prints("{\n    \"k\": true\n}\n"),
+      ToolCall("boolean_short_form").call("-ab k false").prints("{\n    \"k\": false\n}\n"),
+      ToolCall("boolean_words_and_digits")
+          .call("-ab k1 true -ab k2 1 -ab k3 FalSe -ab k4 0 -ab k5 hello")
           .prints(R"({
     "k1": true,
     "k2": true,
@@ -192,93 +192,93 @@ std::vector<Case> booleanRows() {
 }
 )")
           .reports(rejected("hello")),
-      Case("boolean_in_capital_letters").call({"--addBoolean", "k", "TRUE", "-r", ""}).prints("{\"k\":true}\n"),
-      Case("boolean_with_more_letters")
+      ToolCall("boolean_in_capital_letters").call({"--addBoolean", "k", "TRUE", "-r", ""}).prints("{\"k\":true}\n"),
+      ToolCall("boolean_with_more_letters")
           .call({"--addBoolean", "k", "True1", "-r", ""})
           .prints("{\"k\":null}\n")
           .reports(rejected("true1")),
-      Case("empty_boolean")
+      ToolCall("empty_boolean")
           .call({"--addBoolean", "k", "", "-r", ""})
           .prints("{\"k\":null}\n")
           .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only,  rejected.\n"),
-      Case("boolean_yes")
+      ToolCall("boolean_yes")
           .call({"--addBoolean", "k", "YES", "-r", ""})
           .prints("{\"k\":null}\n")
           .reports(rejected("yes")),
-      Case("boolean_with_spaces")
+      ToolCall("boolean_with_spaces")
           .call({"--addBoolean", "k", " true ", "-r", ""})
           .prints("{\"k\":null}\n")
           .reports(rejected(" true ")),
-      Case("boolean_two_digits")
+      ToolCall("boolean_two_digits")
           .call({"--addBoolean", "k", "01", "-r", ""})
           .prints("{\"k\":null}\n")
           .reports(rejected("01")),
-      Case("only_ascii_letters_are_made_small")
+      ToolCall("only_ascii_letters_are_made_small")
           .call({"--addBoolean", "k", "\xC3\x89T\xC9", "-r", ""})
           .prints("{\"k\":null}\n")
           .reports(rejected("\xC3\x89t\xC9")),
-      Case("rejected_boolean_under_missing_objects")
+      ToolCall("rejected_boolean_under_missing_objects")
           .call({"--addBoolean", "a.b", "no", "-r", ""})
           .prints("{\"a\":{\"b\":null}}\n")
           .reports(rejected("no")),
-      Case("boolean_replaces_the_other_boolean")
+      ToolCall("boolean_replaces_the_other_boolean")
           .given("f.json", R"({"k":true})")
-          .call({"--file", "f.json", "--addBoolean", "k", "false"})
+          .call("--file f.json --addBoolean k false")
           .leaves("f.json", "{\n  \"k\": false\n}"),
-      Case("boolean_replaces_an_object")
+      ToolCall("boolean_replaces_an_object")
           .given("f.json", R"({"k":{"a":1}})")
-          .call({"--file", "f.json", "--addBoolean", "k", "1"})
+          .call("--file f.json --addBoolean k 1")
           .leaves("f.json", "{\n  \"k\": true\n}"),
-      Case("rejected_boolean_for_an_existing_boolean")
+      ToolCall("rejected_boolean_for_an_existing_boolean")
           .given("f.json", R"({"k":true})")
-          .call({"--fileDisplay", "f.json", "--addBoolean", "k", "no", "--read", "k"})
+          .call("--fileDisplay f.json --addBoolean k no --read k")
           .reports(rejected("no") + rejected("no") + "Incompatible types for key k\n")
           .exits(1),
-      Case("rejected_boolean_for_an_existing_string")
+      ToolCall("rejected_boolean_for_an_existing_string")
           .given("f.json", R"({"a":{"k":"s"}})")
-          .call({"--file", "f.json", "--addBoolean", "a.k", "No"})
+          .call("--file f.json --addBoolean a.k No")
           .reports(rejected("no") + rejected("no") + "Incompatible types for key k\n")
           .exits(1),
-      Case("rejected_boolean_for_an_existing_object")
+      ToolCall("rejected_boolean_for_an_existing_object")
           .given("f.json", R"({"k":{}})")
-          .call({"--file", "f.json", "--addBoolean", "k", "no"})
+          .call("--file f.json --addBoolean k no")
           .reports(rejected("no") + rejected("no") + "Incompatible types for key k\n")
           .exits(1),
-      Case("rejected_boolean_for_an_existing_null")
+      ToolCall("rejected_boolean_for_an_existing_null")
           .given("f.json", R"({"a":{"k":null}})")
-          .call({"--file", "f.json", "--addBoolean", "a.k", "no"})
+          .call("--file f.json --addBoolean a.k no")
           .reports(rejected("no") + rejected("no"))
           .leaves("f.json", "{\n  \"a\": {\n    \"k\": null\n  }\n}"),
-      Case("boolean_rejected_twice_for_a_new_key")
+      ToolCall("boolean_rejected_twice_for_a_new_key")
           .call({"-ab", "k", "no", "-ab", "k", "never", "-r", ""})
           .prints("{\"k\":null}\n")
           .reports(rejected("no") + rejected("never") + rejected("never")),
-      Case("boolean_replaces_the_null_of_a_rejected_one")
+      ToolCall("boolean_replaces_the_null_of_a_rejected_one")
           .call({"-ab", "k", "no", "-ab", "k", "1", "-r", ""})
           .prints("{\"k\":true}\n")
           .reports(rejected("no")),
-      Case("rejected_boolean_below_a_string")
+      ToolCall("rejected_boolean_below_a_string")
           .given("f.json", R"({"a":"s"})")
-          .call({"--file", "f.json", "--addBoolean", "a.b", "no"})
+          .call("--file f.json --addBoolean a.b no")
           .reports(rejected("no") + "Incompatible types for key a\n")
           .exits(1),
-      Case("rejected_boolean_in_a_selected_object")
+      ToolCall("rejected_boolean_in_a_selected_object")
           .given("f.json", R"({"list":[{"id":1,"on":null}]})")
-          .call({"--file", "f.json", "--addBoolean", "list.id=1.on", "no"})
+          .call("--file f.json --addBoolean list.id=1.on no")
           .reports(rejected("no") + rejected("no") + "Incompatible types for key list\n")
           .exits(1),
-      Case("rejected_boolean_behind_a_failed_selection")
+      ToolCall("rejected_boolean_behind_a_failed_selection")
           .call({"--addBoolean", "id=1", "no", "-r", ""})
           .prints("{\"id=1\":null}\n")
           .reports("Kovalt path not found with refKey=refValue \"id=1\"\n" + rejected("no")),
-      Case("rejected_boolean_at_the_root")
+      ToolCall("rejected_boolean_at_the_root")
           .given("f.json", R"({"a":1})")
           .call({"--file", "f.json", "--addBoolean", "", "no"})
           .reports(rejected("no") + rejected("no"))
           .aborts("IsObject()"),
-      Case("boolean_at_the_root").call({"--addBoolean", "", "1"}).prints("true\n"),
-      Case("boolean_behind_a_failed_selection_cannot_be_turned")
-          .call({"-ab", "k=1", "true", "-ab", "k=1", "false"})
+      ToolCall("boolean_at_the_root").call({"--addBoolean", "", "1"}).prints("true\n"),
+      ToolCall("boolean_behind_a_failed_selection_cannot_be_turned")
+          .call("-ab k=1 true -ab k=1 false")
           .reports("Kovalt path not found with refKey=refValue \"k=1\"\n"
                    "Kovalt path not found with refKey=refValue \"k=1\"\n"
                    "Incompatible types for key k=1\n")
@@ -286,60 +286,60 @@ std::vector<Case> booleanRows() {
   };
 }
 
-std::vector<Case> objectRows() {
+std::vector<ToolCall> objectRows() {
   return {
-      Case("object").call({"--addObject", "k"}).prints("{\n    \"k\": {}\n}\n"),
-      Case("object_short_form").call({"-ao", "k"}).prints("{\n    \"k\": {}\n}\n"),
-      Case("object_under_missing_objects")
+      ToolCall("object").call("--addObject k").prints("{\n    \"k\": {}\n}\n"),
+      ToolCall("object_short_form").call("-ao k").prints("{\n    \"k\": {}\n}\n"),
+      ToolCall("object_under_missing_objects")
           .call({"--addObject", "a.b.c", "-r", ""})
           .prints("{\"a\":{\"b\":{\"c\":{}}}}\n"),
-      Case("object_empties_an_object")
+      ToolCall("object_empties_an_object")
           .given("f.json", R"({"a":{"b":1,"c":{}},"d":2})")
-          .call({"--file", "f.json", "--addObject", "a"})
+          .call("--file f.json --addObject a")
           .leaves("f.json", "{\n  \"a\": {},\n  \"d\": 2\n}"),
-      Case("object_replaces_a_string")
+      ToolCall("object_replaces_a_string")
           .given("f.json", R"({"a":"s"})")
-          .call({"--file", "f.json", "--addObject", "a"})
+          .call("--file f.json --addObject a")
           .leaves("f.json", "{\n  \"a\": {}\n}"),
-      Case("object_replaces_an_array")
+      ToolCall("object_replaces_an_array")
           .given("f.json", R"({"a":[1]})")
-          .call({"--file", "f.json", "--addObject", "a"})
+          .call("--file f.json --addObject a")
           .leaves("f.json", "{\n  \"a\": {}\n}"),
-      Case("object_empties_the_root")
+      ToolCall("object_empties_the_root")
           .given("f.json", R"({"a":1})")
           .call({"--file", "f.json", "--addObject", ""})
           .leaves("f.json", "{}"),
-      Case("object_replaces_a_root_array")
+      ToolCall("object_replaces_a_root_array")
           .given("f.json", "[1]")
           .call({"--file", "f.json", "--addObject", "", "--addString", "a", "b"})
           .leaves("f.json", "{\n  \"a\": \"b\"\n}"),
-      Case("object_is_filled_by_later_additions")
+      ToolCall("object_is_filled_by_later_additions")
           .call({"-ao", "a", "-as", "a.b", "v", "-r", ""})
           .prints("{\"a\":{\"b\":\"v\"}}\n"),
-      Case("object_empties_what_earlier_additions_made")
+      ToolCall("object_empties_what_earlier_additions_made")
           .call({"-as", "a.b", "v", "-ao", "a", "-r", ""})
           .prints("{\"a\":{}}\n"),
-      Case("object_empties_a_selected_object")
+      ToolCall("object_empties_a_selected_object")
           .given("f.json", R"([{"id":1},{"id":2}])")
-          .call({"--file", "f.json", "--addObject", "id=2"})
+          .call("--file f.json --addObject id=2")
           .leaves("f.json", "[\n  {\n    \"id\": 1\n  },\n  {}\n]"),
-      Case("object_behind_a_failed_selection_is_not_emptied")
+      ToolCall("object_behind_a_failed_selection_is_not_emptied")
           .given("f.json", R"({"k=1":{"a":1}})")
-          .call({"--file", "f.json", "--addObject", "k=1"})
+          .call("--file f.json --addObject k=1")
           .reports("Kovalt path not found with refKey=refValue \"k=1\"\n")
           .leaves("f.json", "{\n  \"k=1\": {\n    \"a\": 1\n  }\n}"),
-      Case("object_below_a_number_clashes")
+      ToolCall("object_below_a_number_clashes")
           .given("f.json", R"({"a":1})")
-          .call({"--file", "f.json", "--addObject", "a.b"})
+          .call("--file f.json --addObject a.b")
           .reports("Incompatible types for key a\n")
           .exits(1),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(StringAdditions, ToolCall, testing::ValuesIn(stringRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(NumberAdditions, ToolCall, testing::ValuesIn(numberRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(BooleanAdditions, ToolCall, testing::ValuesIn(booleanRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(ObjectAdditions, ToolCall, testing::ValuesIn(objectRows()), rowName);
+const Table kStringAdditions("StringAdditions", stringRows);
+const Table kNumberAdditions("NumberAdditions", numberRows);
+const Table kBooleanAdditions("BooleanAdditions", booleanRows);
+const Table kObjectAdditions("ObjectAdditions", objectRows);
 
 }  // namespace
 }  // namespace kovalt::test

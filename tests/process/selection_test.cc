@@ -1,6 +1,6 @@
 // Selection steps: which object of an array "refKey=refValue" finds, and what is said when it finds none.
 
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -15,11 +15,11 @@ std::string badArgument() {
 }
 
 /// A read of `path` in a file with this content.
-Case reading(const std::string& name, const std::string& content, const std::string& path) {
-  return Case(name).given("f.json", content).call({"--file", "f.json", "--read", path});
+ToolCall reading(const std::string& name, const std::string& content, const std::string& path) {
+  return ToolCall(name).given("f.json", content).call({"--file", "f.json", "--read", path});
 }
 
-std::vector<Case> matchRows() {
+std::vector<ToolCall> matchRows() {
   return {
       // Numbers are compared as the text that they print as.
       reading("integer_matches_its_text", R"({"list":[{"id":7,"name":"x"}]})", "list.id=7.name").prints("x\n"),
@@ -99,7 +99,7 @@ std::vector<Case> matchRows() {
   };
 }
 
-std::vector<Case> searchRows() {
+std::vector<ToolCall> searchRows() {
   return {
       // Order of the search.
       reading("first_of_two_matches_is_selected", R"({"list":[{"id":1,"n":"one"},{"id":1,"n":"two"}]})", "list.id=1.n")
@@ -168,15 +168,15 @@ std::vector<Case> searchRows() {
       reading("bad_item_does_not_stop_the_search", R"({"list":[{"tags":[null]},{"tags":["red"],"n":2}]})",
               "list.tags=red.n")
           .prints("2\n"),
-      Case("each_selection_remembers_its_own_bad_item")
+      ToolCall("each_selection_remembers_its_own_bad_item")
           .given("f.json", R"({"a":[{"t":[null]},{"t":"x","b":[{"t":1}]}]})")
-          .call({"--file", "f.json", "--read", "a.t=x.b.t=2"})
+          .call("--file f.json --read a.t=x.b.t=2")
           .reports(notFound("t=2")),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(SelectionMatch, ToolCall, testing::ValuesIn(matchRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(SelectionSearch, ToolCall, testing::ValuesIn(searchRows()), rowName);
+const Table kSelectionMatch("SelectionMatch", matchRows);
+const Table kSelectionSearch("SelectionSearch", searchRows);
 
 }  // namespace
 }  // namespace kovalt::test

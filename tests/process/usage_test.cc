@@ -1,10 +1,10 @@
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
 
 // The text ends with a line end of its own, and the call writes one more after it.
-constexpr const char* kUsage = R"(Usage:
+constexpr const char* kUsageText = R"(Usage:
 
   Kovalt
 
@@ -69,23 +69,26 @@ Examples:
 constexpr const char* kGraph = R"({"links": [{"id": 0, "hostname": "192.168.1.10", "port": 2099},
            {"id": 1, "hostname": "192.168.1.11", "port": 3002}]})";
 
-std::vector<Case> rows() {
+std::vector<ToolCall> rows() {
   return {
-      Case("no_argument_prints_the_usage").call({}).prints(kUsage),
-      Case("the_usage_leaves_every_file_alone").given("conf.json", "{}").call({}).prints(kUsage),
-      Case("the_usage_on_a_closed_output_is_a_success").withClosedOutput().call({}),
-      Case("the_usage_on_a_full_output_is_a_success").withFullOutput().call({}),
+      ToolCall("no_argument_prints_the_usage").call({}).prints(kUsageText),
+      ToolCall("the_usage_leaves_every_file_alone").given("conf.json", "{}").call({}).prints(kUsageText),
+      ToolCall("the_usage_on_a_closed_output_is_a_success").withClosedOutput().call({}),
+      ToolCall("the_usage_on_a_full_output_is_a_success").withFullOutput().call({}),
 
       // Any argument at all goes to the parser; there is no option that asks for help.
-      Case("an_empty_argument_is_parsed_and_refused").call({""}).prints("Error: invalid argument \n").exits(1),
-      Case("a_blank_argument_is_parsed_and_refused").call({" "}).prints("Error: invalid argument  \n").exits(1),
-      Case("two_empty_arguments_are_refused_at_the_first").call({"", ""}).prints("Error: invalid argument \n").exits(1),
-      Case("long_help_is_refused").call({"--help"}).prints("Error: invalid argument --help\n").exits(1),
-      Case("short_help_is_refused").call({"-h"}).prints("Error: invalid argument -h\n").exits(1),
-      Case("version_is_refused").call({"--version"}).prints("Error: invalid argument --version\n").exits(1),
+      ToolCall("an_empty_argument_is_parsed_and_refused").call({""}).prints("Error: invalid argument \n").exits(1),
+      ToolCall("a_blank_argument_is_parsed_and_refused").call({" "}).prints("Error: invalid argument  \n").exits(1),
+      ToolCall("two_empty_arguments_are_refused_at_the_first")
+          .call({"", ""})
+          .prints("Error: invalid argument \n")
+          .exits(1),
+      ToolCall("long_help_is_refused").call("--help").prints("Error: invalid argument --help\n").exits(1),
+      ToolCall("short_help_is_refused").call("-h").prints("Error: invalid argument -h\n").exits(1),
+      ToolCall("version_is_refused").call("--version").prints("Error: invalid argument --version\n").exits(1),
 
       // The calls that the usage shows.
-      Case("example_add_string").call({"--addString", "object1.object2.stringKey", "stringValue"}).prints(R"({
+      ToolCall("example_add_string").call("--addString object1.object2.stringKey stringValue").prints(R"({
     "object1": {
         "object2": {
             "stringKey": "stringValue"
@@ -93,9 +96,8 @@ std::vector<Case> rows() {
     }
 }
 )"),
-      Case("example_add_boolean")
-          .call({"--addBoolean", "k1", "true", "-ab", "k2", "1", "-ab", "k3", "FalSe", "-ab", "k4", "0", "-ab", "k5",
-                 "hello"})
+      ToolCall("example_add_boolean")
+          .call("--addBoolean k1 true -ab k2 1 -ab k3 FalSe -ab k4 0 -ab k5 hello")
           .prints(R"({
     "k1": true,
     "k2": true,
@@ -105,8 +107,8 @@ std::vector<Case> rows() {
 }
 )")
           .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, hello rejected.\n"),
-      Case("example_add_number").call({"--addNumber", "key", "666"}).prints("{\n    \"key\": 666\n}\n"),
-      Case("example_add_array").call({"--addArray", "key", "stringValue1", "stringValue2", "stringValue3"}).prints(R"({
+      ToolCall("example_add_number").call("--addNumber key 666").prints("{\n    \"key\": 666\n}\n"),
+      ToolCall("example_add_array").call("--addArray key stringValue1 stringValue2 stringValue3").prints(R"({
     "key": [
         "stringValue1",
         "stringValue2",
@@ -114,85 +116,78 @@ std::vector<Case> rows() {
     ]
 }
 )"),
-      Case("example_add_object").call({"--addObject", "objectKey"}).prints("{\n    \"objectKey\": {}\n}\n"),
-      Case("example_file")
-          .call({"--file", "outputFile.json", "--addString", "key", "value"})
+      ToolCall("example_add_object").call("--addObject objectKey").prints("{\n    \"objectKey\": {}\n}\n"),
+      ToolCall("example_file")
+          .call("--file outputFile.json --addString key value")
           .leaves("outputFile.json", "{\n  \"key\": \"value\"\n}"),
-      Case("example_add_file")
+      ToolCall("example_add_file")
           .given("fileToMerge.json", R"({"a":1})")
-          .call({"--addFile", "fileToMerge.json"})
+          .call("--addFile fileToMerge.json")
           .prints("{\n    \"a\": 1\n}\n"),
-      Case("example_add_file_at_an_added_object")
+      ToolCall("example_add_file_at_an_added_object")
           .given("fileToMerge.json", R"({"a":1})")
-          .call({"--addObject", "objectKey", "--addFileAt", "objectKey", "fileToMerge.json"})
+          .call("--addObject objectKey --addFileAt objectKey fileToMerge.json")
           .prints(R"({
     "objectKey": {
         "a": 1
     }
 }
 )"),
-      Case("example_add_file_at_a_new_key_gives_the_same")
+      ToolCall("example_add_file_at_a_new_key_gives_the_same")
           .given("fileToMerge.json", R"({"a":1})")
-          .call({"--addFileAt", "objectKey", "fileToMerge.json"})
+          .call("--addFileAt objectKey fileToMerge.json")
           .prints(R"({
     "objectKey": {
         "a": 1
     }
 }
 )"),
-      Case("example_file_display")
-          .call({"--fileDisplay", "outputFile", "--addString", "key", "value"})
+      ToolCall("example_file_display")
+          .call("--fileDisplay outputFile --addString key value")
           .prints("{\n    \"key\": \"value\"\n}\n")
           .leaves("outputFile", "{\n  \"key\": \"value\"\n}"),
-      Case("example_read").call({"--read", "key", "--addString", "key", "value"}).prints("value\n"),
-      Case("example_read_array")
-          .call({"--readArray", "key", "--addArray", "key", "val1", "val2"})
-          .prints("val1 val2\n"),
-      Case("example_read_array_space")
-          .call({"--readArraySpace", "key", "--addArray", "key", "val1", "val2"})
+      ToolCall("example_read").call("--read key --addString key value").prints("value\n"),
+      ToolCall("example_read_array").call("--readArray key --addArray key val1 val2").prints("val1 val2\n"),
+      ToolCall("example_read_array_space")
+          .call("--readArraySpace key --addArray key val1 val2")
           .prints("\"val1\" \"val2\"\n"),
-      Case("example_read_array_comma")
-          .call({"--readArrayComma", "key", "--addArray", "key", "val1", "val2"})
+      ToolCall("example_read_array_comma")
+          .call("--readArrayComma key --addArray key val1 val2")
           .prints("\"val1\",\"val2\"\n"),
-      Case("example_read_array_comma_no_quote")
-          .call({"--readArrayCommaNoQuote", "key", "--addArray", "key", "val1", "val2"})
+      ToolCall("example_read_array_comma_no_quote")
+          .call("--readArrayCommaNoQuote key --addArray key val1 val2")
           .prints("val1,val2\n"),
-      Case("example_remove")
-          .call({"--remove", "obj.key", "--addString", "obj.key", "value"})
-          .prints("{\n    \"obj\": {}\n}\n"),
-      Case("example_remove_and_clear")
-          .call({"--removeAndClear", "obj.key", "--addString", "obj.key", "value"})
-          .prints("{}\n"),
-      Case("example_selection_by_an_array_of_names")
+      ToolCall("example_remove").call("--remove obj.key --addString obj.key value").prints("{\n    \"obj\": {}\n}\n"),
+      ToolCall("example_remove_and_clear").call("--removeAndClear obj.key --addString obj.key value").prints("{}\n"),
+      ToolCall("example_selection_by_an_array_of_names")
           .given("conf.json", R"({"processProvisioning": {"pools": [
               {"names": ["Other"], "maxNumberOfNodesForThisHypervisor": 3},
               {"names": ["Third", "Dastrel"], "maxNumberOfNodesForThisHypervisor": 8}]}})")
-          .call({"--file", "conf.json", "--read",
-                 "processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor"})
+          .call("--file conf.json --read processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor")
           .prints("8\n"),
 
       // Where the usage and the parser disagree, the parser holds and the usage stays as it is.
-      Case("read_array_takes_no_commas_as_racq_does")
-          .call({"--readArray", "key", "-aa", "key", "val1", "val2"})
+      ToolCall("read_array_takes_no_commas_as_racq_does")
+          .call("--readArray key -aa key val1 val2")
           .prints("val1 val2\n"),
-      Case("ra_takes_no_commas_as_racq_does").call({"-ra", "key", "-aa", "key", "val1", "val2"}).prints("val1 val2\n"),
-      Case("add_array_boolean_adds_no_numbers").call({"--addArrayBoolean", "key", "1", "0"}).prints(R"({
+      ToolCall("ra_takes_no_commas_as_racq_does").call("-ra key -aa key val1 val2").prints("val1 val2\n"),
+      ToolCall("add_array_boolean_adds_no_numbers").call("--addArrayBoolean key 1 0").prints(R"({
     "key": [
         true,
         false
     ]
 }
 )"),
-      Case("add_object_needs_its_key_path")
-          .call({"--addObject"})
+      ToolCall("add_object_needs_its_key_path")
+          .call("--addObject")
           .prints("Error: Error: missing argument(s) after --addObject\n")
           .exits(1),
-      Case("the_separator_is_the_whole_last_value")
+      ToolCall("the_separator_is_the_whole_last_value")
           .given("graph.json", kGraph)
-          .call({"--file", "graph.json", "-roacs", "links", "id", "hostname", "port", "/:+"})
+          .call("--file graph.json -roacs links id hostname port /:+")
           .prints("0/192.168.1.10:2099 1/192.168.1.11:3002\n"),
-      Case("the_key_of_example_add_array_boolean_is_the_one_given")
-          .call({"--addArrayBoolean", "key", "TRUE", "1", "FalSe", "0", "hello"})
+      ToolCall("the_key_of_example_add_array_boolean_is_the_one_given")
+          .call("--addArrayBoolean key TRUE 1 FalSe 0 hello")
           .prints(R"({
     "key": [
         true,
@@ -205,9 +200,7 @@ std::vector<Case> rows() {
 )")
           .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, [ true 1 false 0 hello ] "
                    "rejected.\n"),
-      Case("the_numbers_of_example_add_array_number_are_four")
-          .call({"--addArrayNumber", "key", "0", "1", "2", "3"})
-          .prints(R"({
+      ToolCall("the_numbers_of_example_add_array_number_are_four").call("--addArrayNumber key 0 1 2 3").prints(R"({
     "key": [
         0,
         1,
@@ -216,34 +209,34 @@ std::vector<Case> rows() {
     ]
 }
 )"),
-      Case("example_read_array_space_no_quote_is_refused")
-          .call({"--readArraySpaceNoQuote", "--addArray", "key", "val1", "val2"})
+      ToolCall("example_read_array_space_no_quote_is_refused")
+          .call("--readArraySpaceNoQuote --addArray key val1 val2")
           .prints("Error: invalid argument key\n")
           .exits(1),
-      Case("example_concat_takes_the_file_option_as_its_key_path")
+      ToolCall("example_concat_takes_the_file_option_as_its_key_path")
           .given("hyperGraph.json", kGraph)
-          .call({"--readObjectArrayConcat", "-f", "hyperGraph.json", "links", "id", "hostname", "port"})
+          .call("--readObjectArrayConcat -f hyperGraph.json links id hostname port")
           .reports("--read error : Path \"-f\" does not exist\n"),
-      Case("example_concat_takes_the_file_name_as_a_field_path")
+      ToolCall("example_concat_takes_the_file_name_as_a_field_path")
           .given("graph.json", R"({"-f": [{"hyperGraph": {"json": "h"}, "links": "l"}]})")
-          .call({"--addFile", "graph.json", "--readObjectArrayConcat", "-f", "hyperGraph.json", "links"})
+          .call("--addFile graph.json --readObjectArrayConcat -f hyperGraph.json links")
           .prints("h l\n"),
-      Case("example_concat_with_the_file_first")
+      ToolCall("example_concat_with_the_file_first")
           .given("hyperGraph.json", kGraph)
-          .call({"-f", "hyperGraph.json", "--readObjectArrayConcat", "links", "id", "hostname", "port"})
+          .call("-f hyperGraph.json --readObjectArrayConcat links id hostname port")
           .prints("0 192.168.1.10 2099 1 192.168.1.11 3002\n"),
-      Case("example_concat_sep_takes_the_file_option_as_its_key_path")
+      ToolCall("example_concat_sep_takes_the_file_option_as_its_key_path")
           .given("hypervisorGraph.json", kGraph)
-          .call({"-roacs", "-f", "hypervisorGraph.json", "links", "id", "hostname", "port", "/:"})
+          .call("-roacs -f hypervisorGraph.json links id hostname port /:")
           .reports("--read error : Path \"-f\" does not exist\n"),
-      Case("example_concat_sep_with_the_file_first")
+      ToolCall("example_concat_sep_with_the_file_first")
           .given("hypervisorGraph.json", kGraph)
-          .call({"-f", "hypervisorGraph.json", "-roacs", "links", "id", "hostname", "port", "/:"})
+          .call("-f hypervisorGraph.json -roacs links id hostname port /:")
           .prints("0/192.168.1.10:2099 1/192.168.1.11:3002\n"),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(Usage, ToolCall, testing::ValuesIn(rows()), rowName);
+const Table kUsage("Usage", rows);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -1,4 +1,4 @@
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -9,23 +9,23 @@ constexpr const char* kLinks =
 /// The display of the document {"k": [...]} for the given lines of the array.
 std::string shown(const std::string& elements) { return "{\n    \"k\": [\n" + elements + "\n    ]\n}\n"; }
 
-std::vector<Case> lists() {
+std::vector<ToolCall> lists() {
   return {
       // A list may be empty.
-      Case("no_value_for_add_array").call({"--addArray", "k"}).prints("{\n    \"k\": []\n}\n"),
-      Case("no_value_for_add_array_number").call({"--addArrayNumber", "k"}).prints("{\n    \"k\": []\n}\n"),
-      Case("no_value_for_add_array_boolean").call({"--addArrayBoolean", "k"}).prints("{\n    \"k\": []\n}\n"),
-      Case("short_option_in_place_of_a_value").call({"--addArray", "k", "-as", "a", "b"}).prints(R"({
+      ToolCall("no_value_for_add_array").call("--addArray k").prints("{\n    \"k\": []\n}\n"),
+      ToolCall("no_value_for_add_array_number").call("--addArrayNumber k").prints("{\n    \"k\": []\n}\n"),
+      ToolCall("no_value_for_add_array_boolean").call("--addArrayBoolean k").prints("{\n    \"k\": []\n}\n"),
+      ToolCall("short_option_in_place_of_a_value").call("--addArray k -as a b").prints(R"({
     "k": [],
     "a": "b"
 }
 )"),
-      Case("long_option_in_place_of_a_value").call({"--addArrayNumber", "k", "--addString", "a", "b"}).prints(R"({
+      ToolCall("long_option_in_place_of_a_value").call("--addArrayNumber k --addString a b").prints(R"({
     "k": [],
     "a": "b"
 }
 )"),
-      Case("option_behind_the_values").call({"-aa", "k", "x", "y", "-as", "a", "b"}).prints(R"({
+      ToolCall("option_behind_the_values").call("-aa k x y -as a b").prints(R"({
     "k": [
         "x",
         "y"
@@ -33,7 +33,7 @@ std::vector<Case> lists() {
     "a": "b"
 }
 )"),
-      Case("list_behind_a_list").call({"-aan", "k", "1", "2", "-aab", "a", "1", "0"}).prints(R"({
+      ToolCall("list_behind_a_list").call("-aan k 1 2 -aab a 1 0").prints(R"({
     "k": [
         1,
         2
@@ -44,7 +44,7 @@ std::vector<Case> lists() {
     ]
 }
 )"),
-      Case("key_path_with_a_dash_before_the_values").call({"-aa", "-k", "x", "y"}).prints(R"({
+      ToolCall("key_path_with_a_dash_before_the_values").call("-aa -k x y").prints(R"({
     "-k": [
         "x",
         "y"
@@ -53,36 +53,34 @@ std::vector<Case> lists() {
 )"),
 
       // A single value is cut at its commas; several values stay as they are.
-      Case("one_value").call({"-aa", "k", "x"}).prints(shown(R"(        "x")")),
-      Case("three_values").call({"-aan", "k", "1", "2", "3"}).prints(shown("        1,\n        2,\n        3")),
-      Case("one_value_of_three_pieces").call({"-aan", "k", "1,2,3"}).prints(shown("        1,\n        2,\n        3")),
-      Case("one_value_of_three_strings")
-          .call({"-aa", "k", "a,b,c"})
+      ToolCall("one_value").call("-aa k x").prints(shown(R"(        "x")")),
+      ToolCall("three_values").call("-aan k 1 2 3").prints(shown("        1,\n        2,\n        3")),
+      ToolCall("one_value_of_three_pieces").call("-aan k 1,2,3").prints(shown("        1,\n        2,\n        3")),
+      ToolCall("one_value_of_three_strings")
+          .call("-aa k a,b,c")
           .prints(shown("        \"a\",\n        \"b\",\n        \"c\"")),
-      Case("one_value_of_three_booleans")
-          .call({"-aab", "k", "TRUE,0,1"})
+      ToolCall("one_value_of_three_booleans")
+          .call("-aab k TRUE,0,1")
           .prints(shown("        true,\n        false,\n        true")),
-      Case("rejected_pieces_are_listed_apart")
-          .call({"-aab", "k", "TRUE,maybe"})
+      ToolCall("rejected_pieces_are_listed_apart")
+          .call("-aab k TRUE,maybe")
           .prints(shown("        true,\n        null"))
           .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, [ true maybe ] rejected.\n"),
-      Case("comma_in_the_first_of_two_strings")
-          .call({"-aa", "k", "1,2", "3"})
+      ToolCall("comma_in_the_first_of_two_strings")
+          .call("-aa k 1,2 3")
           .prints(shown("        \"1,2\",\n        \"3\"")),
-      Case("comma_in_the_second_of_two_strings")
-          .call({"-aa", "k", "1", "2,3"})
+      ToolCall("comma_in_the_second_of_two_strings")
+          .call("-aa k 1 2,3")
           .prints(shown("        \"1\",\n        \"2,3\"")),
-      Case("commas_in_both_strings")
-          .call({"-aa", "k", "a,b", "c,d"})
-          .prints(shown("        \"a,b\",\n        \"c,d\"")),
-      Case("comma_in_the_first_of_two_numbers_ends_that_number")
-          .call({"-aan", "k", "1,2", "3"})
+      ToolCall("commas_in_both_strings").call("-aa k a,b c,d").prints(shown("        \"a,b\",\n        \"c,d\"")),
+      ToolCall("comma_in_the_first_of_two_numbers_ends_that_number")
+          .call("-aan k 1,2 3")
           .prints(shown("        1,\n        3")),
-      Case("comma_in_one_of_two_booleans_is_rejected")
-          .call({"-aab", "k", "1,0", "1"})
+      ToolCall("comma_in_one_of_two_booleans_is_rejected")
+          .call("-aab k 1,0 1")
           .prints(shown("        null,\n        true"))
           .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, [ 1,0 1 ] rejected.\n"),
-      Case("option_behind_a_single_value_leaves_it_single").call({"-aa", "k", "a,b", "-as", "l", "m"}).prints(R"({
+      ToolCall("option_behind_a_single_value_leaves_it_single").call("-aa k a,b -as l m").prints(R"({
     "k": [
         "a",
         "b"
@@ -92,149 +90,146 @@ std::vector<Case> lists() {
 )"),
 
       // Empty pieces are kept, but none follows the last comma.
-      Case("two_commas_side_by_side")
-          .call({"-aa", "k", "a,,b"})
+      ToolCall("two_commas_side_by_side")
+          .call("-aa k a,,b")
           .prints(shown("        \"a\",\n        \"\",\n        \"b\"")),
-      Case("trailing_comma").call({"-aa", "k", "a,b,"}).prints(shown("        \"a\",\n        \"b\"")),
-      Case("two_trailing_commas").call({"-aa", "k", "a,,"}).prints(shown("        \"a\",\n        \"\"")),
-      Case("leading_comma").call({"-aa", "k", ",a"}).prints(shown("        \"\",\n        \"a\"")),
-      Case("comma_alone").call({"-aa", "k", ","}).prints(shown("        \"\"")),
-      Case("two_commas_alone").call({"-aa", "k", ",,"}).prints(shown("        \"\",\n        \"\"")),
-      Case("trailing_comma_behind_numbers").call({"-aan", "k", "1,2,"}).prints(shown("        1,\n        2")),
-      Case("comma_alone_among_two_values").call({"-aa", "k", ",", ","}).prints(shown("        \",\",\n        \",\"")),
-      Case("empty_piece_is_no_number").call({"-aan", "k", "1,,2"}).aborts(),
-      Case("comma_alone_is_no_number").call({"-aan", "k", ","}).aborts(),
-      Case("empty_piece_is_no_boolean")
-          .call({"-aab", "k", "1,,0"})
+      ToolCall("trailing_comma").call("-aa k a,b,").prints(shown("        \"a\",\n        \"b\"")),
+      ToolCall("two_trailing_commas").call("-aa k a,,").prints(shown("        \"a\",\n        \"\"")),
+      ToolCall("leading_comma").call("-aa k ,a").prints(shown("        \"\",\n        \"a\"")),
+      ToolCall("comma_alone").call("-aa k ,").prints(shown("        \"\"")),
+      ToolCall("two_commas_alone").call("-aa k ,,").prints(shown("        \"\",\n        \"\"")),
+      ToolCall("trailing_comma_behind_numbers").call("-aan k 1,2,").prints(shown("        1,\n        2")),
+      ToolCall("comma_alone_among_two_values").call("-aa k , ,").prints(shown("        \",\",\n        \",\"")),
+      ToolCall("empty_piece_is_no_number").call("-aan k 1,,2").aborts(),
+      ToolCall("comma_alone_is_no_number").call("-aan k ,").aborts(),
+      ToolCall("empty_piece_is_no_boolean")
+          .call("-aab k 1,,0")
           .prints(shown("        true,\n        null,\n        false"))
           .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, [ 1  0 ] rejected.\n"),
 
       // Pieces are taken as they stand.
-      Case("blanks_around_a_comma").call({"-aa", "k", "a , b"}).prints(shown("        \"a \",\n        \" b\"")),
-      Case("blank_alone").call({"-aa", "k", " "}).prints(shown("        \" \"")),
-      Case("blanks_do_not_cut").call({"-aa", "k", "a b c"}).prints(shown("        \"a b c\"")),
-      Case("line_end_does_not_cut").call({"-aa", "k", "a\nb,c"}).prints(shown("        \"a\\nb\",\n        \"c\"")),
-      Case("other_separators_do_not_cut").call({"-aa", "k", "a;b|c\td"}).prints(shown(R"(        "a;b|c\td")")),
-      Case("backslash_protects_no_comma")
+      ToolCall("blanks_around_a_comma").call({"-aa", "k", "a , b"}).prints(shown("        \"a \",\n        \" b\"")),
+      ToolCall("blank_alone").call({"-aa", "k", " "}).prints(shown("        \" \"")),
+      ToolCall("blanks_do_not_cut").call({"-aa", "k", "a b c"}).prints(shown("        \"a b c\"")),
+      ToolCall("line_end_does_not_cut").call("-aa k a\nb,c").prints(shown("        \"a\\nb\",\n        \"c\"")),
+      ToolCall("other_separators_do_not_cut").call("-aa k a;b|c\td").prints(shown(R"(        "a;b|c\td")")),
+      ToolCall("backslash_protects_no_comma")
           .call({"-aa", "k", R"(a\,b)"})
           .prints(shown("        \"a\\\\\",\n        \"b\"")),
-      Case("quotes_protect_no_comma")
+      ToolCall("quotes_protect_no_comma")
           .call({"-aa", "k", R"("a,b")"})
           .prints(shown("        \"\\\"a\",\n        \"b\\\"\"")),
-      Case("equals_sign_in_a_value").call({"-aa", "k", "a=b"}).prints(shown("        \"a=b\"")),
-      Case("dash_inside_a_value").call({"-aa", "k", "a-b"}).prints(shown("        \"a-b\"")),
-      Case("dash_at_the_start_of_a_piece").call({"-aa", "k", "a,-b"}).prints(shown("        \"a\",\n        \"-b\"")),
-      Case("minus_sign_beyond_ascii_ends_no_list").call({"-aa", "k", "−5"}).prints(shown("        \"−5\"")),
-      Case("blank_before_a_dash_ends_no_list").call({"-aan", "k", " -5"}).prints(shown("        -5")),
-      Case("plus_sign_ends_no_list").call({"-aan", "k", "+5", "6"}).prints(shown("        5,\n        6")),
+      ToolCall("equals_sign_in_a_value").call("-aa k a=b").prints(shown("        \"a=b\"")),
+      ToolCall("dash_inside_a_value").call("-aa k a-b").prints(shown("        \"a-b\"")),
+      ToolCall("dash_at_the_start_of_a_piece").call("-aa k a,-b").prints(shown("        \"a\",\n        \"-b\"")),
+      ToolCall("minus_sign_beyond_ascii_ends_no_list").call("-aa k −5").prints(shown("        \"−5\"")),
+      ToolCall("blank_before_a_dash_ends_no_list").call({"-aan", "k", " -5"}).prints(shown("        -5")),
+      ToolCall("plus_sign_ends_no_list").call("-aan k +5 6").prints(shown("        5,\n        6")),
 
       // A negative number stands in a comma list, and not at its start.
-      Case("negative_number_in_a_comma_list").call({"-aan", "k", "1,-5"}).prints(shown("        1,\n        -5")),
-      Case("negative_number_alone").call({"-aan", "k", "-5"}).prints("Error: invalid argument -5\n").exits(1),
-      Case("negative_number_behind_another")
-          .call({"-aan", "k", "1", "-5"})
-          .prints("Error: invalid argument -5\n")
-          .exits(1),
-      Case("negative_number_at_the_start_of_a_comma_list")
-          .call({"-aan", "k", "-5,1"})
+      ToolCall("negative_number_in_a_comma_list").call("-aan k 1,-5").prints(shown("        1,\n        -5")),
+      ToolCall("negative_number_alone").call("-aan k -5").prints("Error: invalid argument -5\n").exits(1),
+      ToolCall("negative_number_behind_another").call("-aan k 1 -5").prints("Error: invalid argument -5\n").exits(1),
+      ToolCall("negative_number_at_the_start_of_a_comma_list")
+          .call("-aan k -5,1")
           .prints("Error: invalid argument -5,1\n")
           .exits(1),
 
       // An empty argument ends a list and is refused as an option.
-      Case("empty_argument_in_place_of_a_value")
+      ToolCall("empty_argument_in_place_of_a_value")
           .call({"--addArray", "k", ""})
           .prints("Error: invalid argument \n")
           .exits(1),
-      Case("empty_argument_between_values")
+      ToolCall("empty_argument_between_values")
           .call({"-aa", "k", "a", "", "b"})
           .prints("Error: invalid argument \n")
           .exits(1),
-      Case("empty_argument_behind_the_values")
+      ToolCall("empty_argument_behind_the_values")
           .call({"-aan", "k", "1", "2", ""})
           .prints("Error: invalid argument \n")
           .exits(1),
-      Case("dash_alone_ends_a_list").call({"-aa", "k", "a", "-"}).prints("Error: invalid argument -\n").exits(1),
-      Case("two_dashes_end_a_list").call({"-aa", "k", "--", "a"}).prints("Error: invalid argument --\n").exits(1),
-      Case("value_that_begins_with_a_dash")
-          .call({"-aa", "k", "-value"})
+      ToolCall("dash_alone_ends_a_list").call("-aa k a -").prints("Error: invalid argument -\n").exits(1),
+      ToolCall("two_dashes_end_a_list").call("-aa k -- a").prints("Error: invalid argument --\n").exits(1),
+      ToolCall("value_that_begins_with_a_dash")
+          .call("-aa k -value")
           .prints("Error: invalid argument -value\n")
           .exits(1),
   };
 }
 
-std::vector<Case> fieldLists() {
+std::vector<ToolCall> fieldLists() {
   return {
-      Case("fields_apart")
+      ToolCall("fields_apart")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roac", "links", "id", "port"})
+          .call("-f links.json -roac links id port")
           .prints("0 2099 1 3002\n"),
-      Case("fields_in_one_comma_list")
+      ToolCall("fields_in_one_comma_list")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roac", "links", "id,port"})
+          .call("-f links.json -roac links id,port")
           .prints("0 2099 1 3002\n"),
-      Case("comma_in_one_of_two_fields_stays")
+      ToolCall("comma_in_one_of_two_fields_stays")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roac", "links", "a,b", "id"})
+          .call("-f links.json -roac links a,b id")
           .prints("c 0 d 1\n"),
-      Case("list_ends_at_an_option")
+      ToolCall("list_ends_at_an_option")
           .given("links.json", kLinks)
-          .call({"-roac", "links", "port", "id", "-f", "links.json"})
+          .call("-roac links port id -f links.json")
           .prints("2099 0 3002 1\n"),
-      Case("comma_alone_is_the_whole_element")
+      ToolCall("comma_alone_is_the_whole_element")
           .given("links.json", R"({"links":[{"id":7}]})")
-          .call({"-f", "links.json", "-roac", "links", ","})
+          .call("-f links.json -roac links ,")
           .prints("{\"id\":7}\n"),
-      Case("no_field_before_an_option")
+      ToolCall("no_field_before_an_option")
           .given("links.json", kLinks)
-          .call({"-roac", "links", "-f", "links.json"})
+          .call("-roac links -f links.json")
           .prints("(2)\n"),
-      Case("no_field_and_one_element")
+      ToolCall("no_field_and_one_element")
           .given("links.json", R"({"links":[{"id":7}]})")
-          .call({"--readObjectArrayConcat", "links", "--file", "links.json"})
+          .call("--readObjectArrayConcat links --file links.json")
           .prints("\n"),
-      Case("empty_argument_in_place_of_a_field")
+      ToolCall("empty_argument_in_place_of_a_field")
           .given("links.json", kLinks)
           .call({"-f", "links.json", "-roac", "links", ""})
           .prints("Error: invalid argument \n")
           .exits(1),
-      Case("separator_behind_fields")
+      ToolCall("separator_behind_fields")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roacs", "links", "id", "port", "/"})
+          .call("-f links.json -roacs links id port /")
           .prints("0/2099 1/3002\n"),
-      Case("separator_in_a_comma_list")
+      ToolCall("separator_in_a_comma_list")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roacs", "links", "id,port,/"})
+          .call("-f links.json -roacs links id,port,/")
           .prints("0/2099 1/3002\n"),
-      Case("separator_at_the_end_of_a_comma_list")
+      ToolCall("separator_at_the_end_of_a_comma_list")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roacs", "links", "id,port,/,"})
+          .call("-f links.json -roacs links id,port,/,")
           .prints("0/2099 1/3002\n"),
-      Case("comma_as_a_separator")
+      ToolCall("comma_as_a_separator")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roacs", "links", "id", "port", ","})
+          .call("-f links.json -roacs links id port ,")
           .prints("0,2099 1,3002\n"),
-      Case("separators_with_a_comma")
+      ToolCall("separators_with_a_comma")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roacs", "links", "id", "port", "id", ",/"})
+          .call("-f links.json -roacs links id port id ,/")
           .prints("0,2099/0 1,3002/1\n"),
-      Case("blank_as_a_separator")
+      ToolCall("blank_as_a_separator")
           .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id", "port", " "})
           .prints("0 2099 1 3002\n"),
-      Case("separator_before_an_option")
+      ToolCall("separator_before_an_option")
           .given("links.json", kLinks)
-          .call({"-roacs", "links", "id", "port", "/", "-f", "links.json"})
+          .call("-roacs links id port / -f links.json")
           .prints("0/2099 1/3002\n"),
-      Case("two_values_are_a_field_and_an_unused_separator")
+      ToolCall("two_values_are_a_field_and_an_unused_separator")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roacs", "links", "id", "port"})
+          .call("-f links.json -roacs links id port")
           .prints("0 1\n"),
-      Case("separator_may_begin_with_no_dash")
+      ToolCall("separator_may_begin_with_no_dash")
           .given("links.json", kLinks)
-          .call({"-f", "links.json", "-roacs", "links", "id", "port", "-"})
+          .call("-f links.json -roacs links id port -")
           .prints("Error: invalid argument -\n")
           .exits(1),
-      Case("empty_separator_behind_values_is_refused")
+      ToolCall("empty_separator_behind_values_is_refused")
           .given("links.json", kLinks)
           .call({"-f", "links.json", "-roacs", "links", "id", "port", ""})
           .prints("Error: invalid argument \n")
@@ -242,8 +237,8 @@ std::vector<Case> fieldLists() {
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(ValueLists, ToolCall, testing::ValuesIn(lists()), rowName);
-INSTANTIATE_TEST_SUITE_P(FieldLists, ToolCall, testing::ValuesIn(fieldLists()), rowName);
+const Table kValueLists("ValueLists", lists);
+const Table kFieldLists("FieldLists", fieldLists);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -1,16 +1,16 @@
 // The text in which numbers and strings are written, whatever their text was in the file that they came from.
 
-#include "tool_case.h"
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
 
 /// A file that holds the one value `text`, and the text as which it is displayed.
-Case value(const std::string& name, const std::string& text, const std::string& displayed) {
-  return Case(name).given("f.json", text).call({"--file", "f.json"}).prints(displayed + "\n");
+ToolCall value(const std::string& name, const std::string& text, const std::string& displayed) {
+  return ToolCall(name).given("f.json", text).call("--file f.json").prints(displayed + "\n");
 }
 
-std::vector<Case> numberRows() {
+std::vector<ToolCall> numberRows() {
   return {
       value("integer", "7", "7"),
       value("negative_integer", "-7", "-7"),
@@ -49,18 +49,18 @@ std::vector<Case> numberRows() {
       value("conversion_is_not_of_full_precision", "1e-23", "1.0000000000000001e-23"),
       value("conversion_rounds_each_step", "1e-30", "9.999999999999999e-31"),
 
-      Case("saved_numbers")
+      ToolCall("saved_numbers")
           .given("f.json", "[7,7.0,-0.0,1e5,1e21,1e-23]")
           .call({"--file", "f.json", "--remove", ""})
           .leaves("f.json", "[\n  7,\n  7.0,\n  -0.0,\n  100000.0,\n  1e21,\n  1.0000000000000001e-23\n]"),
-      Case("compact_numbers")
+      ToolCall("compact_numbers")
           .given("f.json", "[7, 7.0, -0.0, 1e5, 1e21, 0.10]")
           .call({"--file", "f.json", "--read", ""})
           .prints("[7,7.0,-0.0,100000.0,1e21,0.1]\n"),
   };
 }
 
-std::vector<Case> stringRows() {
+std::vector<ToolCall> stringRows() {
   return {
       value("quote_and_backslash", R"("a\"b\\c")", R"("a\"b\\c")"),
       value("short_escapes", R"("\b\f\n\r\t")", R"("\b\f\n\r\t")"),
@@ -75,23 +75,23 @@ std::vector<Case> stringRows() {
       value("non_ascii_escapes", R"("\u00e9\u20AC")", "\"\xC3\xA9\xE2\x82\xAC\""),
       value("surrogate_pair", R"("\ud83d\ude00")", "\"\xF0\x9F\x98\x80\""),
       value("bytes_that_are_no_utf8_are_kept", "\"\xFF\xC3\"", "\"\xFF\xC3\""),
-      Case("names_are_escaped_like_strings")
+      ToolCall("names_are_escaped_like_strings")
           .given("f.json", R"({"\"\\\u0000\u001f\/\u00e9":1})")
-          .call({"--file", "f.json"})
+          .call("--file f.json")
           .prints("{\n    \"\\\"\\\\\\u0000\\u001F/\xC3\xA9\": 1\n}\n"),
-      Case("saved_strings")
+      ToolCall("saved_strings")
           .given("f.json", R"(["\u0001\u001f\n\"\\\/\u00e9\u0000"])")
           .call({"--file", "f.json", "--remove", ""})
           .leaves("f.json", "[\n  \"\\u0001\\u001F\\n\\\"\\\\/\xC3\xA9\\u0000\"\n]"),
-      Case("compact_strings")
+      ToolCall("compact_strings")
           .given("f.json", R"(["\u0001\u001f\n\"\\\/\u00e9\u0000"])")
           .call({"--file", "f.json", "--read", ""})
           .prints("[\"\\u0001\\u001F\\n\\\"\\\\/\xC3\xA9\\u0000\"]\n"),
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(NumberText, ToolCall, testing::ValuesIn(numberRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(StringText, ToolCall, testing::ValuesIn(stringRows()), rowName);
+const Table kNumberText("NumberText", numberRows);
+const Table kStringText("StringText", stringRows);
 
 }  // namespace
 }  // namespace kovalt::test

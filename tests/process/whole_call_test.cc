@@ -1,4 +1,4 @@
-#include "tool_case.h"
+#include "tool_call.h"
 
 // Calls that use several kinds of option at once: the fixed order of the work and what ends a call early.
 
@@ -68,144 +68,90 @@ constexpr auto kSaved = R"({
   ]
 })";
 
-std::vector<Case> rows() {
+std::vector<ToolCall> rows() {
   return {
-      Case("a_typical_call_saves_and_prints_only_the_read")
+      ToolCall("a_typical_call_saves_and_prints_only_the_read")
           .given("conf.json", R"({"network":{"webSocketPort":"80","host":"h"}})")
-          .call({"--file", "conf.json", "--addString", "network.webSocketPort", "9000", "--read",
-                 "network.webSocketPort"})
+          .call("--file conf.json --addString network.webSocketPort 9000 --read network.webSocketPort")
           .prints("9000\n")
           .leaves("conf.json", "{\n  \"network\": {\n    \"webSocketPort\": \"9000\",\n    \"host\": \"h\"\n  }\n}"),
-      Case("a_typical_call_creates_the_file_and_the_missing_section")
-          .call({"-f", "conf.json", "-as", "network.webSocketPort", "9000", "-r", "network.webSocketPort"})
+      ToolCall("a_typical_call_creates_the_file_and_the_missing_section")
+          .call("-f conf.json -as network.webSocketPort 9000 -r network.webSocketPort")
           .prints("9000\n")
           .leaves("conf.json", "{\n  \"network\": {\n    \"webSocketPort\": \"9000\"\n  }\n}"),
-      Case("the_order_of_the_options_does_not_matter_between_kinds")
+      ToolCall("the_order_of_the_options_does_not_matter_between_kinds")
           .given("conf.json", R"({"a":"1","b":"2"})")
           .call(
               {"--read", "", "--remove", "c", "--addString", "c", "3", "--addString", "d", "4", "--file", "conf.json"})
           .prints("{\"a\":\"1\",\"b\":\"2\",\"d\":\"4\"}\n")
           .leaves("conf.json", "{\n  \"a\": \"1\",\n  \"b\": \"2\",\n  \"d\": \"4\"\n}"),
-      Case("additions_and_merges_run_in_command_line_order")
+      ToolCall("additions_and_merges_run_in_command_line_order")
           .given("more.json", R"({"k":"merged"})")
-          .call({"-as", "k", "first", "-af", "more.json", "-as", "l", "x", "-as", "k", "last", "-r", "k"})
+          .call("-as k first -af more.json -as l x -as k last -r k")
           .prints("last\n"),
-      Case("a_merge_after_an_addition_replaces_its_value")
+      ToolCall("a_merge_after_an_addition_replaces_its_value")
           .given("more.json", R"({"k":"merged"})")
-          .call({"-as", "k", "first", "-af", "more.json", "-r", "k"})
+          .call("-as k first -af more.json -r k")
           .prints("merged\n"),
-      Case("every_long_form_in_one_call")
+      ToolCall("every_long_form_in_one_call")
           .given("extra.json", kExtra)
-          .call({"--addString",
-                 "s",
-                 "v",
-                 "--addBoolean",
-                 "b",
-                 "true",
-                 "--addNumber",
-                 "n",
-                 "5",
-                 "--addObject",
-                 "o",
-                 "--addArray",
-                 "as",
-                 "x",
-                 "y",
-                 "--addArrayBoolean",
-                 "ab",
-                 "1",
-                 "0",
-                 "--addArrayNumber",
-                 "an",
-                 "1",
-                 "2",
-                 "--addFile",
-                 "extra.json",
-                 "--addFileAt",
-                 "at",
-                 "extra.json",
-                 "--remove",
-                 "b",
-                 "--removeAndClear",
-                 "at.list",
-                 "--read",
-                 "s",
-                 "--readArraySpace",
-                 "as",
-                 "--readArraySpaceNoQuote",
-                 "as",
-                 "--readArray",
-                 "as",
-                 "--readArrayComma",
-                 "as",
-                 "--readArrayCommaNoQuote",
-                 "as",
-                 "--readObjectArrayConcat",
-                 "list",
-                 "id",
-                 "h",
-                 "--readObjectArrayConcatSep",
-                 "list",
-                 "id",
-                 "h",
-                 "/",
-                 "--fileDisplay",
-                 "out.json"})
+          .call("--addString s v --addBoolean b true --addNumber n 5 --addObject o --addArray as x y --addArrayBoolean "
+                "ab 1 0 --addArrayNumber an 1 2 --addFile extra.json --addFileAt at extra.json --remove b "
+                "--removeAndClear at.list --read s --readArraySpace as --readArraySpaceNoQuote as --readArray as "
+                "--readArrayComma as --readArrayCommaNoQuote as --readObjectArrayConcat list id h "
+                "--readObjectArrayConcatSep list id h / --fileDisplay out.json")
           .prints(std::string(kDisplayed) + kReads)
           .leaves("out.json", kSaved),
-      Case("every_short_form_in_one_call")
+      ToolCall("every_short_form_in_one_call")
           .given("extra.json", kExtra)
-          .call({"-as",  "s",       "v",     "-ab", "b",          "true",  "-an",   "n",          "5",      "-ao",
-                 "o",    "-aa",     "as",    "x",   "y",          "-aab",  "ab",    "1",          "0",      "-aan",
-                 "an",   "1",       "2",     "-af", "extra.json", "-afat", "at",    "extra.json", "-rm",    "b",
-                 "-rmc", "at.list", "-r",    "s",   "-ras",       "as",    "-rasq", "as",         "-ra",    "as",
-                 "-rac", "as",      "-racq", "as",  "-roac",      "list",  "id",    "h",          "-roacs", "list",
-                 "id",   "h",       "/",     "-f",  "out.json"})
+          .call("-as s v -ab b true -an n 5 -ao o -aa as x y -aab ab 1 0 -aan an 1 2 -af extra.json -afat at "
+                "extra.json -rm b -rmc at.list -r s -ras as -rasq as -ra as -rac as -racq as -roac list id h -roacs "
+                "list id h / -f out.json")
           .prints(kReads)
           .leaves("out.json", kSaved),
-      Case("the_short_file_display_form_prints_and_saves")
-          .call({"-fd", "out.json", "-as", "a", "b"})
+      ToolCall("the_short_file_display_form_prints_and_saves")
+          .call("-fd out.json -as a b")
           .prints("{\n    \"a\": \"b\"\n}\n")
           .leaves("out.json", "{\n  \"a\": \"b\"\n}"),
-      Case("a_parse_error_ends_the_call_before_anything_is_read_or_written")
+      ToolCall("a_parse_error_ends_the_call_before_anything_is_read_or_written")
           .given("bad.json", "{nothing")
-          .call({"-f", "bad.json", "-as", "a", "b", "-r", "a", "nonsense"})
+          .call("-f bad.json -as a b -r a nonsense")
           .prints("Error: invalid argument nonsense\n")
           .exits(1),
-      Case("failed_edits_removals_reads_and_loads_leave_the_status_at_zero")
+      ToolCall("failed_edits_removals_reads_and_loads_leave_the_status_at_zero")
           .given("bad.json", "{nothing")
-          .call({"-f", "bad.json", "-af", "none.json", "-rm", "gone", "-r", "a"})
+          .call("-f bad.json -af none.json -rm gone -r a")
           .reports("Could not parse json file bad.json\n"
                    "Could not open document: none.json\n"
                    "--read error : Path \"a\" does not exist\n")
           .leaves("bad.json", "{}"),
-      Case("a_failed_save_still_prints_the_reads_and_gives_status_one")
-          .call({"--file", "missing/conf.json", "--addString", "a", "b", "--read", "a"})
+      ToolCall("a_failed_save_still_prints_the_reads_and_gives_status_one")
+          .call("--file missing/conf.json --addString a b --read a")
           .prints("b\n")
           .reports("Could not write document: missing/conf.json\n")
           .exits(1),
-      Case("a_failed_save_comes_after_the_display")
-          .call({"--fileDisplay", "missing/conf.json", "--addString", "a", "b", "--read", "a"})
+      ToolCall("a_failed_save_comes_after_the_display")
+          .call("--fileDisplay missing/conf.json --addString a b --read a")
           .withMergedStreams()
           .prints("{\n    \"a\": \"b\"\n}\nCould not write document: missing/conf.json\nb\n")
           .exits(1),
-      Case("a_type_clash_ends_the_call_before_display_save_and_reads")
+      ToolCall("a_type_clash_ends_the_call_before_display_save_and_reads")
           .given("conf.json", R"({"a":"text"})")
-          .call({"--fileDisplay", "conf.json", "--addString", "a.b", "x", "--read", "a"})
+          .call("--fileDisplay conf.json --addString a.b x --read a")
           .reports("Incompatible types for key a\n")
           .exits(1),
-      Case("a_number_that_is_none_ends_the_call_abnormally_before_any_output")
+      ToolCall("a_number_that_is_none_ends_the_call_abnormally_before_any_output")
           .given("conf.json", R"({"a":1})")
-          .call({"-fd", "conf.json", "-an", "b", "abc", "-r", "a"})
+          .call("-fd conf.json -an b abc -r a")
           .aborts(),
-      Case("a_merged_file_without_an_object_ends_the_call_abnormally")
+      ToolCall("a_merged_file_without_an_object_ends_the_call_abnormally")
           .given("conf.json", R"({"a":1})")
           .given("list.json", "[1]")
-          .call({"-fd", "conf.json", "-af", "list.json", "-r", "a"})
+          .call("-fd conf.json -af list.json -r a")
           .aborts("IsObject()"),
-      Case("the_streams_interleave_in_the_order_of_the_work")
+      ToolCall("the_streams_interleave_in_the_order_of_the_work")
           .given("conf.json", R"({"a":1})")
-          .call({"-r", "a", "-r", "gone", "-ab", "b", "maybe", "-fd", "conf.json"})
+          .call("-r a -r gone -ab b maybe -fd conf.json")
           .withMergedStreams()
           .prints("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, maybe rejected.\n"
                   "{\n    \"a\": 1,\n    \"b\": null\n}\n"
@@ -215,7 +161,7 @@ std::vector<Case> rows() {
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(WholeCall, ToolCall, testing::ValuesIn(rows()), rowName);
+const Table kWholeCall("WholeCall", rows);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -1,6 +1,5 @@
-#include "tool_case.h"
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -10,7 +9,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <ostream>
+
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
@@ -75,7 +77,8 @@ class CapturedStream {
   std::FILE* file_;
 };
 
-void writeEntry(const fs::path& path, const Entry& entry) {
+void writeEntry(const fs::path& folder, const Entry& entry) {
+  const fs::path path = folder / entry.path;
   fs::create_directories(path.parent_path());
   switch (entry.kind) {
     case Entry::Kind::directory:
@@ -183,87 +186,21 @@ const char* programPath() {
 
 }  // namespace
 
-Case& Case::given(const std::string& path, std::string content, unsigned mode) {
-  before_[path] = {Entry::Kind::file, std::move(content), mode};
-  return *this;
-}
-
-Case& Case::givenDirectory(const std::string& path, unsigned mode) {
-  before_[path] = {Entry::Kind::directory, "", mode};
-  return *this;
-}
-
-Case& Case::givenSymbolicLink(const std::string& path, std::string target) {
-  before_[path] = {Entry::Kind::symbolicLink, std::move(target), 0};
-  return *this;
-}
-
-Case& Case::call(std::vector<std::string> arguments) {
-  arguments_ = std::move(arguments);
-  return *this;
-}
-
-Case& Case::withoutPrivileges() {
-  unprivileged_ = true;
-  return *this;
-}
-
-Case& Case::withClosedOutput() {
-  outputPlace_ = Output::closed;
-  return *this;
-}
-
-Case& Case::withFullOutput() {
-  outputPlace_ = Output::full;
-  return *this;
-}
-
-Case& Case::withMergedStreams() {
-  merged_ = true;
-  return *this;
-}
-
-Case& Case::prints(std::string bytes) {
-  output_ = std::move(bytes);
-  return *this;
-}
-
-Case& Case::reports(std::string bytes) {
-  errors_ = std::move(bytes);
-  return *this;
-}
-
-Case& Case::exits(int status) {
-  status_ = status;
-  return *this;
-}
-
-Case& Case::aborts(std::string fragment) {
-  aborts_ = true;
-  abortFragment_ = std::move(fragment);
-  return *this;
-}
-
-Case& Case::leaves(const std::string& path, std::string content) {
-  changed_[path] = std::move(content);
-  return *this;
-}
-
-void Case::check() const {
+void ToolCall::check() const {
   const WorkingFolder folder;
   const CapturedStream output;
   const CapturedStream errors;
   // Folders last, so that their modes do not keep the files inside from being made.
   for (const bool folders : {false, true}) {
-    for (const auto& [path, entry] : before_) {
+    for (const Entry& entry : before_) {
       if ((entry.kind == Entry::Kind::directory) == folders) {
-        writeEntry(folder.path() / path, entry);
+        writeEntry(folder.path(), entry);
       }
     }
   }
   std::map<std::string, std::string> expectedFiles = listFiles(folder.path());
-  for (const auto& [path, content] : changed_) {
-    expectedFiles[path] = content;
+  for (const Entry& entry : changed_) {
+    expectedFiles[entry.path] = entry.content;
   }
   const std::map<std::string, fs::perms> modesBefore = listModes(folder.path());
   const bool dropPrivileges = unprivileged_ && geteuid() == 0;
@@ -303,11 +240,5 @@ void Case::check() const {
     EXPECT_EQ(modesAfter[path], mode) << "mode of " << path;
   }
 }
-
-void PrintTo(const Case& row, std::ostream* out) { *out << row.name(); }
-
-std::string rowName(const testing::TestParamInfo<Case>& info) { return info.param.name(); }
-
-TEST_P(ToolCall, LeavesExactBytes) { GetParam().check(); }
 
 }  // namespace kovalt::test
