@@ -32,7 +32,7 @@ void resolveSelection(benchmark::State& state) {
     element.AddMember("id", Value(i), document.GetAllocator());
     document.PushBack(element, document.GetAllocator());
   }
-  const KeyPath path("id=" + std::to_string(state.range(0) - 1) + ".id", KeyPath::kStepSeparator);
+  const KeyPath path("id=" + std::to_string(state.range(0) - 1) + ".id");
   for (auto _ : state) {
     benchmark::DoNotOptimize(resolveExisting(path, document));
   }

@@ -11,22 +11,13 @@
 
 namespace kovalt {
 
-/// What a word of the command line can be.
-enum class WordRole {
-  option,
-  keyPath,
-  field,  ///< A key path that starts at the objects of the array that the option names.
-  value,
-  file,
-};
-
 /// The word at the cursor, and what the rest of the line means for it. The views look into the words of the line.
 struct CursorPlace {
-  WordRole role = WordRole::option;
   const Option* option = nullptr;  ///< The option that the word is an argument of; nullptr where it is an option.
-  bool inList = false;             ///< The word may begin the next option as well.
-  std::string_view keyPath;        ///< The first argument of `option`.
-  std::string_view filePath;       ///< The file to work on, wherever the line names it; empty for none.
+  ArgumentKind argument = ArgumentKind::none;
+  bool inList = false;        ///< The word may begin the next option as well.
+  std::string_view keyPath;   ///< The first argument of `option`.
+  std::string_view filePath;  ///< The file to work on, wherever the line names it; empty for none.
   bool fileOptionGiven = false;
 };
 

@@ -6,21 +6,16 @@
 #include <string_view>
 #include <vector>
 
+#include "completion/reachable_steps.h"
 #include "json/document.h"
 
 namespace kovalt {
-
-/// What an option does with its key path.
-struct KeyPathUse {
-  bool selects = true;      ///< False where a step with "=" is a member name like any other, as it is for removals.
-  bool namesArray = false;  ///< The path ends at an array, so arrays that can be entered are offered by name, too.
-};
 
 /// The ways to go on from the key path `word`, walked from any of `roots`, by one step. A candidate is the whole path;
 /// one that can go on itself ends in ".". Of an array with very many objects only the keys to select by are offered,
 /// and such a candidate ends in "=".
 ///
-/// Not offered is what no key path reaches, names and values that hold a ".", an object behind one that the selection
+/// Not offered is what no key path reaches, names and values that hold a ".", an object after one that the selection
 /// stops at, a second member of the same name, and what cannot be shown on a line: empty names and control characters.
 std::vector<std::string> keyPathCandidates(const std::vector<const Value*>& roots, std::string_view word,
                                            KeyPathUse use);

@@ -6,9 +6,9 @@ namespace kovalt::fuzz {
 
 /// An end that the tool promises for some calls.
 enum class End {
-  typeClash,    ///< std::exit with status 1: two values of different types meet in a merge.
-  noObject,     ///< The JSON library's assertion: a merge or a removal works on a value that is no object.
-  skippedStep,  ///< std::abort: objects are to be cleared along a path that skipped a step.
+  typeClash,    ///< Status 1: two values of different types meet in a merge.
+  noObject,     ///< An assertion of RapidJSON: a merge or a removal works on a value that is no object.
+  skippedStep,  ///< An abnormal end: objects are to be cleared along a path that skipped a step.
 };
 
 /// What is thrown at an end.
@@ -16,9 +16,7 @@ struct EarlyEnd {
   End end;
 };
 
-/// Each throws the end that it stands for. Any other status or condition is a defect, and ends the process.
-[[noreturn]] void throwForExit(int status);
-[[noreturn]] void throwForAbort();
+/// Throws the end that an assertion stands for. Any condition but the expected one is a defect, and ends the process.
 [[noreturn]] void throwForAssertion(const char* condition);
 
 }  // namespace kovalt::fuzz

@@ -124,7 +124,7 @@ void tryInput(std::string input) {
   if (!separator.empty()) {
     trySeparator(text, separator);
   }
-  const KeyPath path(text, KeyPath::kStepSeparator);
+  const KeyPath path(text);
   expect(path.text() == text, "the text of a path is the argument");
   tryChain(path);
   Document document;

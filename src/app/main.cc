@@ -8,7 +8,7 @@
 int main(int argumentCount, char* arguments[]) {
   kovalt::ToolContext context;
   if (argumentCount == 1) {
-    kovalt::printLine(kovalt::usageText());
+    kovalt::printLine(kovalt::kUsageText);
     return EXIT_SUCCESS;
   }
   const bool succeeded = kovalt::parseArguments(context, argumentCount, arguments) && kovalt::run(context);

@@ -1,17 +1,12 @@
 #include "app/option_table.h"
 
-#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <utility>
 
-#include "actions/edit/add_array_action.h"
-#include "actions/edit/add_array_boolean_action.h"
-#include "actions/edit/add_array_number_action.h"
-#include "actions/edit/add_boolean_action.h"
 #include "actions/edit/add_file_at_action.h"
-#include "actions/edit/add_number_action.h"
-#include "actions/edit/add_object_action.h"
-#include "actions/edit/add_string_action.h"
+#include "actions/edit/array_additions.h"
+#include "actions/edit/scalar_additions.h"
 #include "actions/read/read_array_actions.h"
 #include "actions/read/read_object_array_concat_action.h"
 
@@ -64,40 +59,73 @@ void setDisplayedFile(ToolContext& context, OptionArguments&& arguments) {
   context.displayResult = true;
 }
 
-constexpr std::array<Option, kOptionCount> kOptions = {{
-    {"--addString", "-as", ArgumentShape::keyPathAndValue, addEditOfValue<AddStringAction>},
-    {"--addBoolean", "-ab", ArgumentShape::keyPathAndValue, addEditOfValue<AddBooleanAction>},
-    {"--addNumber", "-an", ArgumentShape::keyPathAndValue, addEditOfValue<AddNumberAction>},
-    {"--addObject", "-ao", ArgumentShape::keyPath, addEditOfKey<AddObjectAction>},
-    {"--addArray", "-aa", ArgumentShape::keyPathAndList, addEditOfList<AddArrayAction>},
-    {"--addArrayBoolean", "-aab", ArgumentShape::keyPathAndList, addEditOfList<AddArrayBooleanAction>},
-    {"--addArrayNumber", "-aan", ArgumentShape::keyPathAndList, addEditOfList<AddArrayNumberAction>},
-    {"--addFile", "-af", ArgumentShape::file, addFileAtRoot},
-    {"--addFileAt", "-afat", ArgumentShape::keyPathAndFile, addEditOfValue<AddFileAtAction>},
-    {"--remove", "-rm", ArgumentShape::keyPath, addRemoval<EmptyParents::keep>},
-    {"--removeAndClear", "-rmc", ArgumentShape::keyPath, addRemoval<EmptyParents::clear>},
-    {"--read", "-r", ArgumentShape::keyPath, addRead<ReadAction>},
-    {"--readArraySpace", "-ras", ArgumentShape::keyPath, addRead<ReadArraySpaceAction>},
-    {"--readArraySpaceNoQuote", "-rasq", ArgumentShape::keyPath, addRead<ReadArraySpaceNoQuoteAction>},
-    // A second name of the option above it, although the usage text also likens it to the comma form.
-    {"--readArray", "-ra", ArgumentShape::keyPath, addRead<ReadArraySpaceNoQuoteAction>},
-    {"--readArrayComma", "-rac", ArgumentShape::keyPath, addRead<ReadArrayCommaAction>},
-    {"--readArrayCommaNoQuote", "-racq", ArgumentShape::keyPath, addRead<ReadArrayCommaNoQuoteAction>},
-    {"--readObjectArrayConcat", "-roac", ArgumentShape::keyPathAndFields, addSpacedConcatenation},
-    {"--readObjectArrayConcatSep", "-roacs", ArgumentShape::keyPathFieldsAndSeparators, addConcatenation},
-    {"--file", "-f", ArgumentShape::workFile, setFile},
-    {"--fileDisplay", "-fd", ArgumentShape::workFile, setDisplayedFile},
-}};
+// What follows the first argument of an option.
+constexpr FurtherArguments kNothing = {};
+constexpr FurtherArguments kValue = {ArgumentKind::value, false, false};
+constexpr FurtherArguments kBooleanWord = {ArgumentKind::booleanWord, false, false};
+constexpr FurtherArguments kFile = {ArgumentKind::file, false, false};
+constexpr FurtherArguments kValues = {ArgumentKind::value, true, false};
+constexpr FurtherArguments kBooleanWords = {ArgumentKind::booleanWord, true, false};
+constexpr FurtherArguments kFields = {ArgumentKind::field, true, false};
+constexpr FurtherArguments kFieldsAndSeparators = {ArgumentKind::field, true, true};
+
+constexpr Option kOptions[] = {
+    {"--addString", "-as", ArgumentKind::keyPath, kValue, 2, OptionEffect::edit, "set a string",
+     addEditOfValue<AddStringAction>},
+    {"--addBoolean", "-ab", ArgumentKind::keyPath, kBooleanWord, 2, OptionEffect::edit, "set a boolean",
+     addEditOfValue<AddBooleanAction>},
+    {"--addNumber", "-an", ArgumentKind::keyPath, kValue, 2, OptionEffect::edit, "set an integer",
+     addEditOfValue<AddNumberAction>},
+    {"--addObject", "-ao", ArgumentKind::keyPath, kNothing, 1, OptionEffect::edit, "set an empty object",
+     addEditOfKey<AddObjectAction>},
+    {"--addArray", "-aa", ArgumentKind::keyPath, kValues, 1, OptionEffect::edit, "set an array of strings",
+     addEditOfList<AddArrayAction>},
+    {"--addArrayBoolean", "-aab", ArgumentKind::keyPath, kBooleanWords, 1, OptionEffect::edit,
+     "set an array of booleans", addEditOfList<AddArrayBooleanAction>},
+    {"--addArrayNumber", "-aan", ArgumentKind::keyPath, kValues, 1, OptionEffect::edit, "set an array of integers",
+     addEditOfList<AddArrayNumberAction>},
+    {"--addFile", "-af", ArgumentKind::file, kNothing, 1, OptionEffect::edit, "merge a JSON file into the document",
+     addFileAtRoot},
+    {"--addFileAt", "-afat", ArgumentKind::keyPath, kFile, 2, OptionEffect::edit,
+     "merge a JSON file into the object at a key path", addEditOfValue<AddFileAtAction>},
+    {"--remove", "-rm", ArgumentKind::keyPath, kNothing, 1, OptionEffect::removal, "remove a member",
+     addRemoval<EmptyParents::keep>},
+    {"--removeAndClear", "-rmc", ArgumentKind::keyPath, kNothing, 1, OptionEffect::removal,
+     "remove a member and the objects that it leaves empty", addRemoval<EmptyParents::clear>},
+    {"--read", "-r", ArgumentKind::keyPath, kNothing, 1, OptionEffect::read, "print a value", addRead<ReadAction>},
+    {"--readArraySpace", "-ras", ArgumentKind::keyPath, kNothing, 1, OptionEffect::read,
+     "print an array, blanks between the elements", addRead<ReadArraySpaceAction>},
+    {"--readArraySpaceNoQuote", "-rasq", ArgumentKind::keyPath, kNothing, 1, OptionEffect::read,
+     "print an array, blanks between the elements, no quotes", addRead<ReadArraySpaceNoQuoteAction>},
+    // The usage text also likens it to the comma form, but this is what it does.
+    {"--readArray", "-ra", ArgumentKind::keyPath, kNothing, 1, OptionEffect::read,
+     "another name of --readArraySpaceNoQuote", addRead<ReadArraySpaceNoQuoteAction>},
+    {"--readArrayComma", "-rac", ArgumentKind::keyPath, kNothing, 1, OptionEffect::read,
+     "print an array, commas between the elements", addRead<ReadArrayCommaAction>},
+    {"--readArrayCommaNoQuote", "-racq", ArgumentKind::keyPath, kNothing, 1, OptionEffect::read,
+     "print an array, commas between the elements, no quotes", addRead<ReadArrayCommaNoQuoteAction>},
+    {"--readObjectArrayConcat", "-roac", ArgumentKind::keyPath, kFields, 2, OptionEffect::read,
+     "print fields of each object of an array, joined by blanks", addSpacedConcatenation},
+    {"--readObjectArrayConcatSep", "-roacs", ArgumentKind::keyPath, kFieldsAndSeparators, 2, OptionEffect::read,
+     "print fields of each object of an array, joined by separators", addConcatenation},
+    {"--file", "-f", ArgumentKind::file, kNothing, 1, OptionEffect::workFile, "the file to work on", setFile},
+    {"--fileDisplay", "-fd", ArgumentKind::file, kNothing, 1, OptionEffect::workFile,
+     "the file to work on, which is also displayed", setDisplayedFile},
+};
 
 }  // namespace
 
-const std::array<Option, kOptionCount>& optionTable() { return kOptions; }
+const Option* OptionTable::begin() const { return std::begin(kOptions); }
+
+const Option* OptionTable::end() const { return std::end(kOptions); }
 
 const Option* findOption(std::string_view form) {
-  const auto* option = std::find_if(kOptions.begin(), kOptions.end(), [form](const Option& candidate) {
-    return candidate.longForm == form || candidate.shortForm == form;
-  });
-  return option == kOptions.end() ? nullptr : option;
+  for (const Option& option : OptionTable()) {
+    if (option.longForm == form || option.shortForm == form) {
+      return &option;
+    }
+  }
+  return nullptr;
 }
 
 }  // namespace kovalt

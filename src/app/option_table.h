@@ -1,9 +1,8 @@
 #pragma once
 
-// All options of the tool, one row each. The parser, and everything that lists options, reads this table.
+// All options of the tool, one row each. The parser, the completion and everything that lists options reads the columns
+// of this table.
 
-#include <array>
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,22 +11,35 @@
 
 namespace kovalt {
 
-/// The arguments that follow an option.
-enum class ArgumentShape {
+/// What an argument of an option is.
+enum class ArgumentKind {
+  none,
   keyPath,
-  keyPathAndValue,
-  keyPathAndFile,
-  keyPathAndList,              ///< The list may be empty.
-  keyPathAndFields,            ///< A list too, but at least one argument must stand behind the key path.
-  keyPathFieldsAndSeparators,  ///< As before; the last value of the list holds the separators.
+  field,  ///< A key path that starts at each object of the array that the first argument names.
+  value,
+  booleanWord,
   file,
+};
+
+/// What follows the first argument of an option.
+struct FurtherArguments {
+  ArgumentKind kind = ArgumentKind::none;
+  bool isList = false;            ///< Any number of them; otherwise there is exactly one.
+  bool endsInSeparators = false;  ///< The last value of the list is not one of them, but holds the separators.
+};
+
+/// What an option adds to a call.
+enum class OptionEffect {
+  edit,
+  removal,
+  read,
   workFile,  ///< The file to work on, given once at most.
 };
 
-/// The arguments of one option on the command line. A shape leaves empty what it does not have.
+/// The arguments of one option on the command line. What an option does not have stays empty.
 struct OptionArguments {
   std::string first;   ///< The key path, or the file of an option without one.
-  std::string second;  ///< The value or the file behind a key path.
+  std::string second;  ///< The value or the file after a key path.
   std::vector<std::string> list;
   std::string separators;
 };
@@ -36,16 +48,20 @@ struct OptionArguments {
 struct Option {
   std::string_view longForm;
   std::string_view shortForm;
-  ArgumentShape shape;
+  ArgumentKind first;
+  FurtherArguments further;
+  int requiredArguments;  ///< How many arguments must follow, whatever they look like.
+  OptionEffect effect;
+  std::string_view description;  ///< In a few words, for people who choose from a list.
   /// Adds to the context what the option with these arguments asks for.
   void (*addTo)(ToolContext& context, OptionArguments&& arguments);
 };
 
-/// The number of options.
-inline constexpr std::size_t kOptionCount = 21;
-
-/// The whole table.
-const std::array<Option, kOptionCount>& optionTable();
+/// The whole table, a range of rows.
+struct OptionTable {
+  [[nodiscard]] const Option* begin() const;
+  [[nodiscard]] const Option* end() const;
+};
 
 /// The row whose long or short form is exactly `form`, or nullptr.
 const Option* findOption(std::string_view form);

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "app/option_table.h"
-#include "app/split_at.h"
+#include "app/value_list.h"
 #include "json/standard_streams.h"
 
 namespace kovalt {
@@ -20,28 +20,7 @@ bool failForMissingArgument(std::string_view option) {
   return fail("Error: missing argument(s) after " + std::string(option));
 }
 
-/// The number of arguments that must follow an option, whatever they look like.
-int requiredArguments(ArgumentShape shape) {
-  switch (shape) {
-    case ArgumentShape::keyPath:
-    case ArgumentShape::keyPathAndList:
-    case ArgumentShape::file:
-    case ArgumentShape::workFile:
-      break;
-    case ArgumentShape::keyPathAndValue:
-    case ArgumentShape::keyPathAndFile:
-    case ArgumentShape::keyPathAndFields:
-    case ArgumentShape::keyPathFieldsAndSeparators:
-      return 2;
-  }
-  return 1;
-}
-
-bool hasList(ArgumentShape shape) {
-  return shape == ArgumentShape::keyPathAndList || shape == ArgumentShape::keyPathAndFields ||
-         shape == ArgumentShape::keyPathFieldsAndSeparators;
-}
-
+/// Takes the last value of the list as the separators. Returns false where no value is left in front of it.
 bool takeSeparators(OptionArguments& arguments) {
   if (arguments.list.size() < 2) {
     return false;
@@ -58,20 +37,20 @@ bool parseOption(ToolContext& context, int& position, int argumentCount, const c
   if (option == nullptr) {
     return fail("invalid argument " + std::string(form));
   }
-  if (option->shape == ArgumentShape::workFile && !context.filePath.empty()) {
+  if (option->effect == OptionEffect::workFile && !context.filePath.empty()) {
     return fail("--file already specified");
   }
-  if (argumentCount - position <= requiredArguments(option->shape)) {
+  if (argumentCount - position <= option->requiredArguments) {
     return failForMissingArgument(form);
   }
   OptionArguments taken;
   taken.first = arguments[++position];
-  if (hasList(option->shape)) {
+  if (option->further.isList) {
     taken.list = collectValues(position, argumentCount, arguments);
-  } else if (requiredArguments(option->shape) == 2) {
+  } else if (option->further.kind != ArgumentKind::none) {
     taken.second = arguments[++position];
   }
-  if (option->shape == ArgumentShape::keyPathFieldsAndSeparators && !takeSeparators(taken)) {
+  if (option->further.endsInSeparators && !takeSeparators(taken)) {
     return failForMissingArgument(form);
   }
   option->addTo(context, std::move(taken));
@@ -79,19 +58,6 @@ bool parseOption(ToolContext& context, int& position, int argumentCount, const c
 }
 
 }  // namespace
-
-std::vector<std::string> collectValues(int& position, int argumentCount, const char* const* arguments) {
-  std::vector<std::string> values;
-  while (position + 1 < argumentCount) {
-    const std::string_view next = arguments[position + 1];
-    if (next.empty() || next.front() == '-') {
-      break;
-    }
-    values.emplace_back(next);
-    ++position;
-  }
-  return values.size() == 1 ? splitAt(values.front(), ',') : values;
-}
 
 bool parseArguments(ToolContext& context, int argumentCount, const char* const* arguments) {
   if (argumentCount == 1) {

@@ -2,9 +2,6 @@
 
 // The command-line parser.
 
-#include <string>
-#include <vector>
-
 #include "app/tool_context.h"
 
 namespace kovalt {
@@ -13,9 +10,5 @@ namespace kovalt {
 /// touched. Returns false after printing one line on standard output at the first argument that is wrong, and silently
 /// where only the program's name is given; without even that there is nothing to parse, and the result is true.
 bool parseArguments(ToolContext& context, int argumentCount, const char* const* arguments);
-
-/// The values of a list: all arguments behind `position` up to the first that is empty or begins with "-", so that a
-/// negative number ends the list too. A single value is cut at its commas. `position` moves on to the last value taken.
-std::vector<std::string> collectValues(int& position, int argumentCount, const char* const* arguments);
 
 }  // namespace kovalt

@@ -1,13 +1,14 @@
 #include "json/find_member.h"
 
+#include "json/text_value.h"
+
 namespace kovalt {
 
 const Value* findMember(const Value& value, std::string_view name) {
   if (!value.IsObject()) {
     return nullptr;
   }
-  const Value key(rapidjson::StringRef(name.data(), static_cast<rapidjson::SizeType>(name.size())));
-  const auto member = value.FindMember(key);
+  const auto member = value.FindMember(referToText(name));
   return member == value.MemberEnd() ? nullptr : &member->value;
 }
 

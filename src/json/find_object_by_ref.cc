@@ -3,8 +3,8 @@
 #include <string>
 
 #include "json/find_member.h"
+#include "json/ref_value.h"
 #include "json/standard_streams.h"
-#include "json/value_to_text.h"
 
 namespace kovalt {
 namespace {
@@ -17,17 +17,14 @@ enum class Match {
 };
 
 bool scalarMatches(const Value& scalar, std::string_view refValue) {
-  if (scalar.IsNumber()) {
-    return valueToText(scalar, false) == refValue;
-  }
-  // A string counts up to its first NUL byte.
-  return std::string_view(scalar.GetString()) == refValue;
+  // A string needs no copy.
+  return scalar.IsString() ? scalar.GetString() == refValue : refValueOf(scalar) == refValue;
 }
 
 Match matchAnyItem(const Value& array, std::string_view refValue) {
   bool badItemSeen = false;
   for (const Value& item : array.GetArray()) {
-    if (!item.IsNumber() && !item.IsString()) {
+    if (!itemCanSelect(item)) {
       badItemSeen = true;
     } else if (scalarMatches(item, refValue)) {
       return Match::yes;
@@ -37,21 +34,13 @@ Match matchAnyItem(const Value& array, std::string_view refValue) {
 }
 
 Match matchMember(const Value& member, std::string_view refValue) {
-  switch (member.GetType()) {
-    case rapidjson::kFalseType:
-      return refValue == "false" ? Match::yes : Match::no;
-    case rapidjson::kTrueType:
-      return refValue == "true" ? Match::yes : Match::no;
-    case rapidjson::kNumberType:
-    case rapidjson::kStringType:
-      return scalarMatches(member, refValue) ? Match::yes : Match::no;
-    case rapidjson::kArrayType:
-      return matchAnyItem(member, refValue);
-    case rapidjson::kNullType:
-    case rapidjson::kObjectType:
-      break;
+  if (!canSelect(member)) {
+    return Match::impossible;
   }
-  return Match::impossible;
+  if (member.IsArray()) {
+    return matchAnyItem(member, refValue);
+  }
+  return scalarMatches(member, refValue) ? Match::yes : Match::no;
 }
 
 Match matchElement(const Value& element, std::string_view refKey, std::string_view refValue) {

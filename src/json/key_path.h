@@ -16,7 +16,7 @@ class KeyPath {
 
   /// Cuts `text` at every occurrence of `separator`, which must not be empty. Empty steps are kept; only an empty text
   /// has no steps at all, and then names the root of the document.
-  KeyPath(std::string_view text, std::string_view separator);
+  explicit KeyPath(std::string_view text, std::string_view separator = kStepSeparator);
   KeyPath(const KeyPath&) = delete;
   KeyPath& operator=(const KeyPath&) = delete;
   virtual ~KeyPath();

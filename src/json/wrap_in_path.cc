@@ -2,14 +2,15 @@
 
 #include <utility>
 
+#include "json/text_value.h"
+
 namespace kovalt {
 
 Value wrapInPath(const KeyPath& path, Value leaf, Allocator& allocator) {
   Value wrapped = std::move(leaf);
   for (auto step = path.steps().rbegin(); step != path.steps().rend(); ++step) {
-    Value name(step->data(), static_cast<rapidjson::SizeType>(step->size()), allocator);
     Value object(rapidjson::kObjectType);
-    object.AddMember(name, wrapped, allocator);
+    object.AddMember(copyText(*step, allocator), wrapped, allocator);
     wrapped = std::move(object);
   }
   return wrapped;

@@ -133,7 +133,7 @@ TEST_P(KeyPathCandidates, AreFoundByTheWalk) {
     if (candidate.back() == '.') {
       candidate.pop_back();
     }
-    EXPECT_NE(resolveForRead(KeyPath(candidate, KeyPath::kStepSeparator), document), nullptr) << candidate;
+    EXPECT_NE(resolveForRead(KeyPath(candidate), document), nullptr) << candidate;
   }
 }
 

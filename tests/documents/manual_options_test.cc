@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <map>
 #include <regex>
 #include <string>
 #include <vector>
@@ -13,31 +14,28 @@
 namespace kovalt::test {
 namespace {
 
+/// How the manual page names an argument.
+std::string nameInManual(ArgumentKind kind) {
+  static const std::map<ArgumentKind, std::string> names = {
+      {ArgumentKind::keyPath, "_keypath_"},   {ArgumentKind::field, "_field_"}, {ArgumentKind::value, "_value_"},
+      {ArgumentKind::booleanWord, "_value_"}, {ArgumentKind::file, "_file_"},
+  };
+  return names.at(kind);
+}
+
 /// How the manual page writes the arguments of an option.
-std::string argumentsInManual(ArgumentShape shape) {
-  switch (shape) {
-    case ArgumentShape::keyPath:
-      return "_keypath_";
-    case ArgumentShape::keyPathAndValue:
-      return "_keypath_ _value_";
-    case ArgumentShape::keyPathAndFile:
-      return "_keypath_ _file_";
-    case ArgumentShape::keyPathAndList:
-      return "_keypath_ [_value_...]";
-    case ArgumentShape::keyPathAndFields:
-      return "_keypath_ _field_...";
-    case ArgumentShape::keyPathFieldsAndSeparators:
-      return "_keypath_ _field_... _separators_";
-    case ArgumentShape::file:
-    case ArgumentShape::workFile:
-      return "_file_";
+std::string argumentsInManual(const Option& option) {
+  std::string arguments = nameInManual(option.first);
+  if (option.further.kind == ArgumentKind::none) {
+    return arguments;
   }
-  return "";
+  const std::string further = nameInManual(option.further.kind) + (option.further.isList ? "..." : "");
+  arguments += option.requiredArguments == 1 ? " [" + further + "]" : " " + further;
+  return option.further.endsInSeparators ? arguments + " _separators_" : arguments;
 }
 
 std::string lineInManual(const Option& option) {
-  return "*" + std::string(option.longForm) + "*, *" + std::string(option.shortForm) + "* " +
-         argumentsInManual(option.shape);
+  return "*" + std::string(option.longForm) + "*, *" + std::string(option.shortForm) + "* " + argumentsInManual(option);
 }
 
 /// The lines of the page that head the description of an option.
@@ -55,7 +53,7 @@ std::vector<std::string> optionLinesOfManual() {
 
 TEST(ManualOptions, AreThoseOfTheTable) {
   std::vector<std::string> expected;
-  for (const Option& option : optionTable()) {
+  for (const Option& option : OptionTable()) {
     expected.push_back(lineInManual(option));
   }
   std::vector<std::string> listed = optionLinesOfManual();

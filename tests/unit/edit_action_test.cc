@@ -3,14 +3,9 @@
 #include <memory>
 #include <type_traits>
 
-#include "actions/edit/add_array_action.h"
-#include "actions/edit/add_array_boolean_action.h"
-#include "actions/edit/add_array_number_action.h"
-#include "actions/edit/add_boolean_action.h"
 #include "actions/edit/add_file_at_action.h"
-#include "actions/edit/add_number_action.h"
-#include "actions/edit/add_object_action.h"
-#include "actions/edit/add_string_action.h"
+#include "actions/edit/array_additions.h"
+#include "actions/edit/scalar_additions.h"
 #include "capture.h"
 #include "json_text.h"
 #include "row.h"

@@ -2,76 +2,10 @@
 
 #include "capture.h"
 #include "row.h"
+#include "texts.h"
 
 namespace kovalt::test {
 namespace {
-
-using Texts = std::vector<std::string>;
-
-std::vector<const char*> pointersTo(const Texts& texts) {
-  std::vector<const char*> pointers;
-  pointers.reserve(texts.size());
-  for (const std::string& text : texts) {
-    pointers.push_back(text.c_str());
-  }
-  return pointers;
-}
-
-// The values of a list.
-
-struct ListRow : Row {
-  Texts arguments;
-  int positionBefore;
-  Texts values;
-  int positionAfter;
-};
-
-std::vector<ListRow> listRows() {
-  return {
-      {{"nothing_follows"}, {"Kovalt", "-aa", "k"}, 2, {}, 2},
-      {{"one_value"}, {"Kovalt", "-aa", "k", "v"}, 2, {"v"}, 3},
-      {{"two_values"}, {"Kovalt", "-aa", "k", "v", "w"}, 2, {"v", "w"}, 4},
-      {{"values_up_to_a_short_form"}, {"Kovalt", "-aa", "k", "v", "w", "-as", "a", "b"}, 2, {"v", "w"}, 4},
-      {{"values_up_to_a_long_form"}, {"Kovalt", "-aa", "k", "v", "w", "--file", "f"}, 2, {"v", "w"}, 4},
-      {{"values_up_to_a_negative_number"}, {"Kovalt", "-aan", "k", "1", "-5", "2"}, 2, {"1"}, 3},
-      {{"values_up_to_a_lone_dash"}, {"Kovalt", "-aa", "k", "v", "-", "w"}, 2, {"v"}, 3},
-      {{"values_up_to_an_empty_argument"}, {"Kovalt", "-aa", "k", "v", "w", "", "x"}, 2, {"v", "w"}, 4},
-      {{"option_ends_the_list_at_once"}, {"Kovalt", "-aa", "k", "-as", "a", "b"}, 2, {}, 2},
-      {{"empty_argument_ends_the_list_at_once"}, {"Kovalt", "-aa", "k", "", "v"}, 2, {}, 2},
-      {{"dash_inside_a_value"}, {"Kovalt", "-aa", "k", "v-", "w-x"}, 2, {"v-", "w-x"}, 4},
-      {{"blank_before_a_dash"}, {"Kovalt", "-aa", "k", " -v", "w"}, 2, {" -v", "w"}, 4},
-      {{"one_value_is_cut_at_commas"}, {"Kovalt", "-aan", "k", "1,2,3"}, 2, {"1", "2", "3"}, 3},
-      {{"one_value_before_an_option_is_cut"}, {"Kovalt", "-aan", "k", "1,2", "-r", "k"}, 2, {"1", "2"}, 3},
-      {{"one_value_before_an_empty_argument_is_cut"}, {"Kovalt", "-aan", "k", "1,2", ""}, 2, {"1", "2"}, 3},
-      {{"one_value_with_a_negative_piece"}, {"Kovalt", "-aan", "k", "1,-5"}, 2, {"1", "-5"}, 3},
-      {{"one_value_with_empty_pieces"}, {"Kovalt", "-aa", "k", ",a,,b,"}, 2, {"", "a", "", "b"}, 3},
-      {{"lone_comma"}, {"Kovalt", "-aa", "k", ","}, 2, {""}, 3},
-      {{"two_values_are_not_cut"}, {"Kovalt", "-aa", "k", "1,2", "3"}, 2, {"1,2", "3"}, 4},
-      {{"equal_values_are_kept"}, {"Kovalt", "-aa", "k", "v", "v"}, 2, {"v", "v"}, 4},
-      {{"list_in_the_middle"}, {"Kovalt", "-as", "a", "b", "-aa", "k", "v", "w", "-r", "k"}, 5, {"v", "w"}, 7},
-      {{"argument_at_the_position_is_not_looked_at"}, {"Kovalt", "-roac", "-k", "id", "port"}, 2, {"id", "port"}, 4},
-      {{"position_of_the_last_argument"}, {"Kovalt", "-aa", "k", "v"}, 3, {}, 3},
-  };
-}
-
-class ValueList : public testing::TestWithParam<ListRow> {};
-
-TEST_P(ValueList, IsCollected) {
-  const ListRow& row = GetParam();
-  const std::vector<const char*> arguments = pointersTo(row.arguments);
-  int position = row.positionBefore;
-  EXPECT_EQ(collectValues(position, static_cast<int>(arguments.size()), arguments.data()), row.values);
-  EXPECT_EQ(position, row.positionAfter);
-}
-
-INSTANTIATE_TEST_SUITE_P(CollectValues, ValueList, testing::ValuesIn(listRows()), rowName<ListRow>);
-
-TEST(CollectValues, StopsAtTheArgumentCount) {
-  const std::vector<const char*> arguments = {"Kovalt", "-aa", "k", "v", "w", "x"};
-  int position = 2;
-  EXPECT_EQ(collectValues(position, 5, arguments.data()), (Texts{"v", "w"}));
-  EXPECT_EQ(position, 4);
-}
 
 // Whole command lines.
 

@@ -7,7 +7,7 @@
 
 namespace kovalt {
 
-EditAction::EditAction(std::string_view keyPath) : keyPath_(keyPath, KeyPath::kStepSeparator) {}
+EditAction::EditAction(std::string_view keyPath) : keyPath_(keyPath) {}
 
 EditAction::~EditAction() = default;
 

@@ -1,21 +1,18 @@
 #include "actions/edit/merge_value.h"
 
-#include <cstdlib>
 #include <string>
 
+#include "json/process_end.h"
 #include "json/standard_streams.h"
+#include "json/text_value.h"
 #include "json/tuning/first_match_index.h"
 
 namespace kovalt {
 namespace {
 
-std::string_view nameOf(const Value::Member& member) {
-  return {member.name.GetString(), member.name.GetStringLength()};
-}
-
 [[noreturn]] void endForIncompatibleTypes(std::string_view name) {
   reportLine("Incompatible types for key " + std::string(name));
-  std::exit(EXIT_FAILURE);
+  endWithFailure();
 }
 
 void appendElements(Value& target, Value& source, Allocator& allocator) {
@@ -29,8 +26,8 @@ void appendElements(Value& target, Value& source, Allocator& allocator) {
 [[gnu::noinline]] Value* mergeMember(Value& target, Value::Member& member, FirstMatchIndex& names,
                                      Allocator& allocator) {
   const auto members = target.MemberBegin();
-  const std::size_t position = names.find(nameOf(member), target.MemberCount(), [&](std::size_t i) {
-    return nameOf(members[static_cast<std::ptrdiff_t>(i)]);
+  const std::size_t position = names.find(textOf(member.name), target.MemberCount(), [&](std::size_t i) {
+    return textOf(members[static_cast<std::ptrdiff_t>(i)].name);
   });
   if (position == target.MemberCount()) {
     target.AddMember(member.name, member.value, allocator);
@@ -38,7 +35,7 @@ void appendElements(Value& target, Value& source, Allocator& allocator) {
   }
   Value& existing = members[static_cast<std::ptrdiff_t>(position)].value;
   if (existing.GetType() != member.value.GetType()) {
-    endForIncompatibleTypes(nameOf(member));
+    endForIncompatibleTypes(textOf(member.name));
   }
   if (existing.IsObject()) {
     return &existing;

@@ -1,21 +1,20 @@
 #include "actions/edit/remove_action.h"
 
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "json/find_member.h"
+#include "json/process_end.h"
+#include "json/text_value.h"
 
 namespace kovalt {
 namespace {
 
-bool removeMember(Value& object, const std::string& name) {
-  return object.RemoveMember(Value(rapidjson::StringRef(name.data(), static_cast<rapidjson::SizeType>(name.size()))));
-}
+bool removeMember(Value& object, const std::string& name) { return object.RemoveMember(referToText(name)); }
 
-/// The way to the object that holds the last step of a path.
+/// The way to the object that holds the member which the last step names.
 struct Walk {
-  /// The object of each step but the last, behind the root; nullptr for a step that was skipped.
+  /// The root, then the object of each step but the last; nullptr for a step that was skipped.
   std::vector<Value*> ancestors;
   /// The innermost of them.
   Value* parent;
@@ -38,24 +37,22 @@ Walk walkToParent(const std::vector<std::string>& steps, Value& root) {
 
 /// Removes the ancestors that hold nothing, from the innermost outwards. Those that hold something stay, and so does
 /// the root.
-bool removeEmptyAncestors(const std::vector<std::string>& steps, const std::vector<Value*>& ancestors) {
-  bool removed = true;
+void removeEmptyAncestors(const std::vector<std::string>& steps, const std::vector<Value*>& ancestors) {
   for (std::size_t i = ancestors.size() - 1; i > 0; --i) {
     if (ancestors[i] == nullptr || ancestors[i - 1] == nullptr) {
       // Along a path with a skipped step it is not known what to clear: end before anything is printed or saved.
-      std::abort();
+      endAbnormally();
     }
     if (ancestors[i]->ObjectEmpty()) {
-      removed &= removeMember(*ancestors[i - 1], steps[i - 1]);
+      removeMember(*ancestors[i - 1], steps[i - 1]);
     }
   }
-  return removed;
 }
 
 }  // namespace
 
 RemoveAction::RemoveAction(std::string_view keyPath, EmptyParents emptyParents)
-    : KeyPath(keyPath, kStepSeparator), emptyParents_(emptyParents) {}
+    : KeyPath(keyPath), emptyParents_(emptyParents) {}
 
 bool RemoveAction::execute(Document& document) const {
   if (steps().empty()) {
@@ -65,12 +62,14 @@ bool RemoveAction::execute(Document& document) const {
     return removeMember(document, steps().front());
   }
   const Walk walk = walkToParent(steps(), document);
-  if (findMember(*walk.parent, steps().back()) == nullptr) {
-    // Unlike a single missing step this counts as done, so the file is rewritten.
-    return true;
+  // Unlike a single missing step, a missing last one counts as success, so the file is rewritten.
+  if (findMember(*walk.parent, steps().back()) != nullptr) {
+    removeMember(*walk.parent, steps().back());
+    if (emptyParents_ == EmptyParents::clear) {
+      removeEmptyAncestors(steps(), walk.ancestors);
+    }
   }
-  const bool removed = removeMember(*walk.parent, steps().back());
-  return emptyParents_ == EmptyParents::keep ? removed : removeEmptyAncestors(steps(), walk.ancestors) && removed;
+  return true;
 }
 
 }  // namespace kovalt

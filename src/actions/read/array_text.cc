@@ -28,4 +28,17 @@ void commasToSpaces(std::string& text) {
 
 void removeQuotes(std::string& text) { text.erase(std::remove(text.begin(), text.end(), '"'), text.end()); }
 
+void flattenArrayText(std::string& text, ElementSeparator separator, StringQuotes quotes) {
+  if (!isArrayText(text)) {
+    return;
+  }
+  stripBrackets(text);
+  if (separator == ElementSeparator::space) {
+    commasToSpaces(text);
+  }
+  if (quotes == StringQuotes::removed) {
+    removeQuotes(text);
+  }
+}
+
 }  // namespace kovalt

@@ -19,4 +19,13 @@ void commasToSpaces(std::string& text);
 /// Deletes every double quote, escaped ones too; their backslashes stay.
 void removeQuotes(std::string& text);
 
+/// What stands between the elements of a flat array.
+enum class ElementSeparator { comma, space };
+
+/// Whether the strings of a flat array stay in double quotes.
+enum class StringQuotes { kept, removed };
+
+/// Makes the text of an array flat: no outer brackets, and the rest as asked for. Any other text stays as it is.
+void flattenArrayText(std::string& text, ElementSeparator separator, StringQuotes quotes);
+
 }  // namespace kovalt

@@ -4,6 +4,7 @@
 
 #include "json/print_value.h"
 #include "json/standard_streams.h"
+#include "json/text_value.h"
 
 namespace kovalt {
 namespace {
@@ -15,10 +16,6 @@ void printSingle(const ReadAction& action, const Document& document) {
   }
 }
 
-Value makeString(const std::string& text, Allocator& allocator) {
-  return {text.data(), static_cast<rapidjson::SizeType>(text.size()), allocator};
-}
-
 void printGathered(const std::vector<std::unique_ptr<ReadAction>>& actions, Document& document) {
   Allocator& allocator = document.GetAllocator();
   Value results(rapidjson::kObjectType);
@@ -26,7 +23,7 @@ void printGathered(const std::vector<std::unique_ptr<ReadAction>>& actions, Docu
     std::string text;
     if (action->execute(document, text)) {
       // A path that is read twice makes two members.
-      results.AddMember(makeString(action->text(), allocator), makeString(text, allocator), allocator);
+      results.AddMember(copyText(action->text(), allocator), copyText(text, allocator), allocator);
     }
   }
   printValue(results);

@@ -5,8 +5,6 @@
 
 namespace kovalt {
 
-ReadAction::ReadAction(std::string_view keyPath) : KeyPath(keyPath, kStepSeparator) {}
-
 bool ReadAction::execute(const Value& value, std::string& text) const {
   const Value* target = resolveForRead(*this, value);
   if (target == nullptr) {

@@ -13,7 +13,7 @@ namespace kovalt {
 /// Reads the value that its key path names.
 class ReadAction : public KeyPath {
  public:
-  explicit ReadAction(std::string_view keyPath);
+  using KeyPath::KeyPath;
 
   /// Puts the compact text of the value, walked from `value`, into `text`, which must be empty; a string goes without
   /// its outer quotes, but keeps its escapes. Returns false with `text` still empty where there is no such value, which

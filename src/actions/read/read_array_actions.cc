@@ -6,37 +6,25 @@ namespace kovalt {
 
 bool ReadArrayCommaAction::execute(const Value& value, std::string& text) const {
   const bool found = ReadAction::execute(value, text);
-  if (isArrayText(text)) {
-    stripBrackets(text);
-  }
+  flattenArrayText(text, ElementSeparator::comma, StringQuotes::kept);
   return found;
 }
 
 bool ReadArrayCommaNoQuoteAction::execute(const Value& value, std::string& text) const {
   const bool found = ReadAction::execute(value, text);
-  if (isArrayText(text)) {
-    stripBrackets(text);
-    removeQuotes(text);
-  }
+  flattenArrayText(text, ElementSeparator::comma, StringQuotes::removed);
   return found;
 }
 
 bool ReadArraySpaceAction::execute(const Value& value, std::string& text) const {
   const bool found = ReadAction::execute(value, text);
-  if (isArrayText(text)) {
-    stripBrackets(text);
-    commasToSpaces(text);
-  }
+  flattenArrayText(text, ElementSeparator::space, StringQuotes::kept);
   return found;
 }
 
 bool ReadArraySpaceNoQuoteAction::execute(const Value& value, std::string& text) const {
   const bool found = ReadAction::execute(value, text);
-  if (isArrayText(text)) {
-    stripBrackets(text);
-    commasToSpaces(text);
-    removeQuotes(text);
-  }
+  flattenArrayText(text, ElementSeparator::space, StringQuotes::removed);
   return found;
 }
 

@@ -1,13 +1,13 @@
 #include "json/tuning/aborting_allocator.h"
 
-#include <cstdlib>
+#include "json/process_end.h"
 
 namespace kovalt {
 
 void* AbortingAllocator::Realloc(void* memory, std::size_t size, std::size_t newSize) {
   void* moved = CrtAllocator::Realloc(memory, size, newSize);
   if (moved == nullptr && newSize != 0) {
-    std::abort();
+    endAbnormally();
   }
   return moved;
 }

@@ -1,0 +1,117 @@
+#include "completion/reachable_steps.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "completion/starts_with.h"
+#include "json/ref_value.h"
+#include "json/text_value.h"
+#include "json/tuning/first_match_index.h"
+
+namespace kovalt {
+namespace {
+
+bool canStandInStep(std::string_view text) {
+  return std::none_of(text.begin(), text.end(), [](char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return c == '.' || byte < 0x20 || byte == 0x7F;
+  });
+}
+
+bool isMemberStep(std::string_view name, KeyPathUse use) {
+  const bool readAsSelection = use.selects && name.find('=') != std::string_view::npos;
+  return !name.empty() && !readAsSelection && canStandInStep(name);
+}
+
+bool isRefKey(std::string_view name) { return name.find('=') == std::string_view::npos && canStandInStep(name); }
+
+/// Whether `key` can be the key of a selection step that begins with `typed`.
+bool keyFits(std::string_view key, std::string_view typed) {
+  const std::size_t equals = typed.find('=');
+  return equals == std::string_view::npos ? startsWith(key, typed) : key == typed.substr(0, equals);
+}
+
+/// Of the members of `object` with the same name, the first.
+std::vector<const Value::Member*> firstMembers(const Value& object) {
+  const Value::ConstMemberIterator members = object.MemberBegin();
+  const auto nameAt = [members](std::size_t i) { return textOf(members[static_cast<std::ptrdiff_t>(i)].name); };
+  FirstMatchIndex firstOf;
+  std::vector<const Value::Member*> first;
+  for (std::size_t i = 0; i < object.MemberCount(); ++i) {
+    if (firstOf.find(nameAt(i), i, nameAt) == i) {
+      first.push_back(&members[static_cast<std::ptrdiff_t>(i)]);
+    }
+  }
+  return first;
+}
+
+/// Adds the selections by a member that can select.
+void addSelections(const Value::Member& member, std::vector<Selection>& selections) {
+  const auto add = [&](const Value& scalar) {
+    std::string refValue = refValueOf(scalar);
+    if (canStandInStep(refValue)) {
+      selections.push_back({textOf(member.name), std::move(refValue)});
+    }
+  };
+  if (!member.value.IsArray()) {
+    add(member.value);
+    return;
+  }
+  for (const Value& item : member.value.GetArray()) {
+    if (itemCanSelect(item)) {
+      add(item);
+    }
+  }
+}
+
+bool hasMemberStep(const Value& object, KeyPathUse use) {
+  return std::any_of(object.MemberBegin(), object.MemberEnd(),
+                     [use](const Value::Member& member) { return isMemberStep(textOf(member.name), use); });
+}
+
+bool hasSelection(const Value& array) {
+  SelectionReader reader(array, "");
+  auto selections = reader.nextObject();
+  while (selections && selections->empty()) {
+    selections = reader.nextObject();
+  }
+  return selections.has_value();
+}
+
+}  // namespace
+
+std::vector<const Value::Member*> reachableMembers(const Value& object, KeyPathUse use) {
+  std::vector<const Value::Member*> members = firstMembers(object);
+  members.erase(std::remove_if(members.begin(), members.end(),
+                               [use](const Value::Member* member) { return !isMemberStep(textOf(member->name), use); }),
+                members.end());
+  return members;
+}
+
+SelectionReader::SelectionReader(const Value& array, std::string_view typed)
+    : next_(array.Begin()), end_(array.End()), typed_(typed) {}
+
+std::optional<std::vector<Selection>> SelectionReader::nextObject() {
+  if (next_ == end_ || !next_->IsObject()) {
+    return std::nullopt;
+  }
+  std::vector<Selection> selections;
+  for (const Value::Member* member : firstMembers(*next_++)) {
+    const std::string_view refKey = textOf(member->name);
+    if (!isRefKey(refKey) || !keyFits(refKey, typed_)) {
+      continue;
+    }
+    if (!canSelect(member->value)) {
+      endedKeys_.insert(refKey);
+    } else if (endedKeys_.count(refKey) == 0) {
+      addSelections(*member, selections);
+    }
+  }
+  return selections;
+}
+
+bool canGoOn(const Value& value, KeyPathUse use) {
+  return value.IsObject() ? hasMemberStep(value, use) : use.selects && value.IsArray() && hasSelection(value);
+}
+
+}  // namespace kovalt
