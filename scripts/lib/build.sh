@@ -41,3 +41,12 @@ run_tests() {
   shift
   ctest --test-dir "build/$folder" --output-on-failure --parallel 2 "$@"
 }
+
+# Builds GoogleTest from the sources that the package googletest brings, with settings for CMake, and installs it into
+# the folder root of build/FOLDER.
+make_googletest() {
+  local folder=$PWD/build/$1
+  shift
+  cmake -G Ninja -S /usr/src/googletest -B "$folder" -DBUILD_GMOCK=OFF -DCMAKE_INSTALL_PREFIX="$folder/root" "$@"
+  cmake --build "$folder" --target install
+}
