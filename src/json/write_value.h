@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "json/document.h"
+#include "json/double_text.h"
 
 namespace kovalt {
 
@@ -25,7 +26,9 @@ void writeScalar(const Value& value, Writer& writer) {
   } else if (value.IsInt()) {
     writer.Int(value.GetInt());
   } else if (value.IsDouble()) {
-    writer.Double(value.GetDouble());
+    DoubleText text;
+    const char* end = writeDouble(value.GetDouble(), text);
+    writer.RawValue(text.data(), static_cast<std::size_t>(end - text.data()), rapidjson::kNumberType);
   } else if (value.IsBool()) {
     writer.Bool(value.GetBool());
   } else if (value.IsNull()) {

@@ -44,6 +44,13 @@ std::vector<ToolCall> numberRows() {
       value("small_number_without_an_exponent", "1e-6", "0.000001"),
       value("small_number_with_an_exponent", "0.0000001", "1e-7"),
       value("small_digits_with_an_exponent", "0.00000015", "1.5e-7"),
+      value("six_places", "176.359966", "176.359966"),
+      value("six_places_below_one", "0.412994", "0.412994"),
+      value("negative_six_places", "-176.359966", "-176.359966"),
+      value("twenty_one_digits_without_an_exponent", "1.23456789012345e20", "123456789012345000000.0"),
+      value("twenty_two_digits_with_an_exponent", "1.23456789012345e21", "1.23456789012345e21"),
+      value("one_digit_with_an_exponent", "5e22", "5e22"),
+      value("smallest_number", "5e-324", "5e-324"),
       value("largest_power", "1e308", "1e308"),
       value("too_small_a_number_is_zero", "1e-400", "0.0"),
       value("conversion_is_not_of_full_precision", "1e-23", "1.0000000000000001e-23"),
@@ -53,6 +60,18 @@ std::vector<ToolCall> numberRows() {
           .given("f.json", "[7,7.0,-0.0,1e5,1e21,1e-23]")
           .call({"--file", "f.json", "--remove", ""})
           .leaves("f.json", "[\n  7,\n  7.0,\n  -0.0,\n  100000.0,\n  1e21,\n  1.0000000000000001e-23\n]"),
+      ToolCall("saved_numbers_of_six_places")
+          .given("f.json", "[176.359966,0.412994,[-0.412994]]")
+          .call({"--file", "f.json", "--remove", ""})
+          .leaves("f.json", "[\n  176.359966,\n  0.412994,\n  [\n    -0.412994\n  ]\n]"),
+      ToolCall("compact_numbers_of_six_places")
+          .given("f.json", "[176.359966, 0.412994, [-0.412994]]")
+          .call({"--file", "f.json", "--read", ""})
+          .prints("[176.359966,0.412994,[-0.412994]]\n"),
+      ToolCall("selection_by_a_number_with_an_exponent")
+          .given("f.json", R"({"list":[{"x":1,"y":2},{"x":[1e-7,5e22],"y":3}]})")
+          .call({"--file", "f.json", "--read", "list.x=1e-7.y", "--read", "list.x=5e22.y"})
+          .prints("{\n    \"list.x=1e-7.y\": \"3\",\n    \"list.x=5e22.y\": \"3\"\n}\n"),
       ToolCall("compact_numbers")
           .given("f.json", "[7, 7.0, -0.0, 1e5, 1e21, 0.10]")
           .call({"--file", "f.json", "--read", ""})

@@ -96,6 +96,8 @@ std::vector<SelectionRow> typeRows() {
       {{"smallest_integer"}, R"([{"v":-9223372036854775808}])", "v", "-9223372036854775808", 0},
       {{"fraction"}, R"([{"v":2.5}])", "v", "2.5", 0},
       {{"fraction_written_longer"}, R"([{"v":2.50}])", "v", "2.5", 0},
+      {{"fraction_of_six_places"}, R"([{"v":0.412993},{"v":0.412994}])", "v", "0.412994", 1},
+      {{"fraction_of_six_places_in_an_array"}, R"([{"v":1},{"v":[7,176.359966]}])", "v", "176.359966", 1},
       {{"fraction_by_longer_text"}, R"([{"v":2.5}])", "v", "2.50", kNotFound},
       {{"whole_fraction"}, R"([{"v":3.0}])", "v", "3.0", 0},
       {{"whole_fraction_by_an_integer"}, R"([{"v":3.0}])", "v", "3", kNotFound},
