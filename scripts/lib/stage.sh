@@ -13,7 +13,8 @@ follow_stage() {
   fi
   while IFS= read -r line; do
     printf '%s\n' "$line" >>"$log"
-    if [[ $line == 'ninja: no work to do.' ]]; then
+    # Looking for what is to be done is nothing to tell.
+    if [[ $line == 'ninja: no work to do.' || $line == '[0/'* ]]; then
       continue
     fi
     if [[ $width ]]; then
