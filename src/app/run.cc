@@ -26,7 +26,7 @@ void applyEdits(const ToolContext& context, Document& document) {
   }
 }
 
-/// Whether there were removals and all of them succeeded.
+/// Whether there were removals and all of them succeeded: only then have they modified the document.
 bool applyRemovals(const ToolContext& context, Document& document) {
   bool allRemovalsOk = !context.removeActions.empty();
   for (const auto& action : context.removeActions) {

@@ -8,7 +8,9 @@
 
 namespace kovalt {
 
-/// The parsed form of a key-path argument. Every action owns one.
+/// The parsed form of a key-path argument. Every action owns one: reads and removals are key paths that can be carried
+/// out, while an addition has one beside its value. A step is kept as it was written, because only the walks take a step
+/// with "=" for a selection; removals and new members take it as a name.
 class KeyPath {
  public:
   /// Between the steps of every key path of the command line.
@@ -24,7 +26,7 @@ class KeyPath {
   /// The steps in order, byte for byte as they were written.
   [[nodiscard]] const std::vector<std::string>& steps() const { return steps_; }
 
-  /// The steps joined with ".": the argument as the user wrote it.
+  /// The steps joined with ".", whatever separator they were cut at: the argument as the user wrote it.
   [[nodiscard]] std::string text() const;
 
  private:

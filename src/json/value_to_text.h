@@ -8,8 +8,8 @@
 
 namespace kovalt {
 
-/// The JSON text of `value`: without any white space, or, with `pretty`, indented by four spaces a level. No line end
-/// follows it.
+/// The JSON text of `value`: without any white space, or, with `pretty`, as it is displayed, indented by four spaces a
+/// level. There is no third form, hence the plain Boolean. No line end follows it.
 std::string valueToText(const Value& value, bool pretty);
 
 }  // namespace kovalt

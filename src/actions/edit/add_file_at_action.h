@@ -14,7 +14,7 @@ class AddFileAtAction : public EditAction {
 
   /// Merges the file into `target`, which first becomes an empty object if it was none. Returns false only for a null
   /// target. A file that cannot be opened or parsed is reported on standard error and counts as an empty object; one
-  /// whose root is no object ends the process through the library's assertion, and one whose types clash with those of
+  /// whose root is no object ends the process through RapidJSON's assertion, and one whose types clash with those of
   /// `target` as mergeValue says.
   bool apply(Value* target, Allocator& allocator) const override;
 

@@ -11,7 +11,7 @@ namespace kovalt {
 /// scalars of the same type replaced. The first member of a name counts.
 ///
 /// Two values of different types (true and false are two types) are reported on standard error, and the process ends at
-/// once with status 1. A `source` that is no object ends it through the library's assertion, and so does a `target`
+/// once with status 1. A `source` that is no object ends it through RapidJSON's assertion, and so does a `target`
 /// that is none when it meets a member.
 void mergeValue(Value& target, Value& source, Allocator& allocator);
 

@@ -22,7 +22,7 @@ class ConcatRecords {
   /// Counts `text` up, or takes it in as a new record.
   void add(std::string text);
 
-  /// All records in the order of their bytes, a space between two, each count above 1 behind its text in parentheses.
+  /// All records in the order of their bytes, a space between two, each count above 1 after its text in parentheses.
   /// The collection is sorted by it, so nothing may be added afterwards.
   std::string joinSorted() &&;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The memory of the JSON library, which uses what it is given without a look whether it was given any.
+// The memory that RapidJSON works in.
 
 #include <rapidjson/allocators.h>
 
@@ -8,9 +8,8 @@
 
 namespace kovalt {
 
-/// The library's own allocator, but for the end of the memory: that ends the process by std::abort. For the stacks of
-/// the library, which only ever reallocate. The operation is not inline, because the library's loops are faster without
-/// it.
+/// RapidJSON does not check whether an allocation failed; this allocator ends the process abnormally instead. It is for
+/// RapidJSON's stacks, which only ever reallocate. The operation is not inline: RapidJSON's loops are faster without it.
 class AbortingAllocator : public rapidjson::CrtAllocator {
  public:
   void* Realloc(void* memory, std::size_t size, std::size_t newSize);
