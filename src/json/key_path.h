@@ -9,8 +9,8 @@
 namespace kovalt {
 
 /// The parsed form of a key-path argument. Every action owns one: reads and removals are key paths that can be carried
-/// out, while an addition has one beside its value. A step is kept as it was written, because only the walks take a step
-/// with "=" for a selection; removals and new members take it as a name.
+/// out, while an addition has one beside its value. A step is kept as it was written, because only the walks take a
+/// step with "=" for a selection; removals and new members take it as a name.
 class KeyPath {
  public:
   /// Between the steps of every key path of the command line.

@@ -19,8 +19,8 @@ class EditAction {
 
   /// Writes the action's value into `target`, whatever that held, allocating from `allocator`, the pool of the target's
   /// document. Returns false, having changed nothing, for a value that is not accepted, after saying so on standard
-  /// error, and for a null target, silently: a path that leads nowhere is no fault of the action's, and may be handed on
-  /// without a look. The base itself has no value: it changes nothing and returns true.
+  /// error, and for a null target, silently: a path that leads nowhere is no fault of the action's, and may be handed
+  /// on without a look. The base itself has no value: it changes nothing and returns true.
   virtual bool apply(Value* target, Allocator& allocator) const;
 
   [[nodiscard]] const KeyPath& keyPath() const { return keyPath_; }
