@@ -1,12 +1,22 @@
 # Mends what scdoc leaves in a page and the linters of pages object to, or a reader stumbles over: paragraph breaks
-# beside headings and at the end of a block, and hyphens that a terminal does not show as typed.
+# beside headings and at the end of a block, items whose first line stands one column off the others, characters
+# that a terminal does not show as typed, and lines of more than 80 bytes.
 /^\.TH/ { print; print ".nh"; after_heading = 1; next } # A page starts with hyphenation on.
 /^\.P$/ { break_wanted = !after_heading; next }
 break_wanted && !/^\.(RE|SH|SS)/ { print ".P"; break_wanted = 0 }
-/^\.(SH|SS)/ { break_wanted = 0 }
+/^\.(SH|SS)/ { break_wanted = 0; gsub(/"/, "\\(dq") }
 { after_heading = /^\.(TH|SH|SS)/ }
 /^\.nf$/ { literal = 1 }
 /^\.fi$/ { literal = 0 }
-literal && !/^\./ { gsub(/-/, "\\-") }
+/^\\h'-04'[0-9]\./ { sub(/\+03/, "+02") }
+literal && !/^\./ { gsub(/-/, "\\-"); gsub(/(\\&)?'/, "\\(aq"); gsub(/`/, "\\(ga") }
+!/^\./ { gsub(/\^/, "\\(ha"); gsub(/~/, "\\(ti") }
 !/^\./ { gsub(/--/, "\\-\\-"); gsub(/\\fB-/, "\\fB\\-"); gsub(/ - /, " \\- ") }
+!literal && !/^\./ {
+  while (length($0) > 80 && match(substr($0, 1, 81), /.* /)) {
+    print substr($0, 1, RLENGTH - 1)
+    $0 = substr($0, RLENGTH + 1)
+    if (/^[.']/) $0 = "\\&" $0
+  }
+}
 { print }

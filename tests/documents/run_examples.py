@@ -3,10 +3,16 @@
 
 An example is a fenced block that begins with a "$ " line. Such a line is a command, "> " lines continue it, and all
 others are what it prints on both streams. The blocks of a section share one shell, so a later one may look at "$?" or
-at a variable, and one fresh folder with copies of the example files.
+at a variable, and one fresh folder with copies of the example files. Every section runs in bash, and again in dash, which
+stands for every POSIX shell; a Markdown block marked "console bash" keeps its section out of dash.
 
-A Markdown block marked "console same" does with other tools what the block in front of it does: it runs in a fresh
-folder of its own, and its last command must print the same, as JSON where both are JSON.
+A Markdown block marked "console same" does with other tools what the block before it does: it runs in a fresh folder
+of its own, and its last command must print the same, as JSON where both are JSON.
+
+Where the tool is installed, "$prefix" says where.
+
+There is a sudo that needs no password: it leaves out the files that are open beside the standard streams, as sudo
+does, and runs the command as the same user.
 """
 
 import argparse
@@ -17,9 +23,15 @@ import shutil
 import subprocess
 import sys
 import tempfile
+from itertools import groupby, zip_longest
 from pathlib import Path
 
 END_OF_OUTPUT = b"\x01\n"
+SUDO = f"""#!{sys.executable}
+import os, sys
+os.closerange(3, 256)
+os.execvp(sys.argv[1], sys.argv[1:])
+"""
 
 
 class Command:
@@ -27,13 +39,14 @@ class Command:
         self.line_number = line_number
         self.text = text
         self.expected = ""
-        self.printed = None  # Until it has run.
+        self.printed = {}  # By each shell that was to run it; nothing where it did not get there.
 
 
 class Block:
     def __init__(self, section, mark):
         self.section = section
         self.same = mark == "console same"
+        self.bash_only = mark == "console bash"
         self.commands = []
 
 
@@ -73,7 +86,7 @@ def add_line(block, number, line):
             command.expected += line + "\n"
 
 
-def run_in_one_shell(commands, program, examples):
+def run_in_one_shell(shell, commands, program, examples, prefix):
     """Runs the commands in a fresh folder and notes what each of them prints."""
     with tempfile.TemporaryDirectory() as top:
         folder = Path(top, "work")
@@ -81,31 +94,39 @@ def run_in_one_shell(commands, program, examples):
         tools = Path(top, "bin")
         tools.mkdir()
         (tools / "Kovalt").symlink_to(program)
+        (tools / "sudo").write_text(SUDO, encoding="utf-8")
+        (tools / "sudo").chmod(0o755)
         # The mark after each command's output keeps the status that the next command may ask for.
         mark = '\n{ status=$?; printf "\\001\\n"; (exit "$status"); }\n'
         done = subprocess.run(
-            ["bash", "-c", "exec 2>&1\n" + "".join(command.text + mark for command in commands)],
+            [shell, "-c", "exec 2>&1\n" + "".join(command.text + mark for command in commands)],
             cwd=folder,
-            env={**os.environ, "PATH": f"{tools}:{os.environ['PATH']}", "LC_ALL": "C.UTF-8", "HOME": top},
+            env={
+                **os.environ,
+                "PATH": f"{tools}:{os.environ['PATH']}",
+                "LC_ALL": "C.UTF-8",
+                "HOME": top,
+                "prefix": str(prefix),
+            },
             stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE,
             timeout=60,
             check=False,
         )
     outputs = done.stdout.split(END_OF_OUTPUT)[:-1]
-    for command, output in zip(commands, outputs):
-        command.printed = output.decode("utf-8")
+    for command, output in zip_longest(commands, outputs):
+        command.printed[shell] = None if output is None else output.decode("utf-8")
 
 
-def run_blocks(blocks, program, examples):
-    sections = {}
-    for block in blocks:
-        if block.same:
-            run_in_one_shell(block.commands, program, examples)
-        else:
-            sections.setdefault(block.section, []).extend(block.commands)
-    for commands in sections.values():
-        run_in_one_shell(commands, program, examples)
+def run_blocks(blocks, *tool):
+    for _, section in groupby(blocks, lambda block: block.section):
+        section = list(section)
+        commands = [command for block in section if not block.same for command in block.commands]
+        for shell in ["bash"] if any(block.bash_only for block in section) else ["bash", "dash"]:
+            run_in_one_shell(shell, commands, *tool)
+        for block in section:
+            if block.same:
+                run_in_one_shell("bash", block.commands, *tool)
 
 
 def meaning(text):
@@ -120,14 +141,15 @@ def failures(path, blocks):
     previous = None
     for block in blocks:
         for command in block.commands:
-            if command.printed != command.expected:
-                yield (
-                    f"{path}:{command.line_number}: $ {command.text}\n"
-                    f"shown:\n{command.expected}\nprinted:\n{command.printed}\n"
-                )
+            for shell, printed in command.printed.items():
+                if printed != command.expected:
+                    yield (
+                        f"{path}:{command.line_number}: $ {command.text}\n"
+                        f"shown:\n{command.expected}\n{shell} printed:\n{printed}\n"
+                    )
         last = block.commands[-1]
-        if block.same and (previous is None or meaning(last.printed) != meaning(previous.printed)):
-            yield f"{path}:{last.line_number}: does not print the same as the block in front of it\n"
+        if block.same and (previous is None or meaning(last.expected) != meaning(previous.expected)):
+            yield f"{path}:{last.line_number}: does not show the same as the block before it\n"
         previous = last
 
 
@@ -135,13 +157,14 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--program", required=True, type=Path, help="the program that the document calls Kovalt")
     parser.add_argument("--examples", required=True, type=Path, help="the folder of the example files")
+    parser.add_argument("--prefix", type=Path, help="the folder that the tool is installed in")
     parser.add_argument("--at-least", required=True, type=int, help="fewer commands than these are a failure")
     parser.add_argument("--same-at-least", default=0, type=int, help="fewer blocks marked same are a failure")
     parser.add_argument("document", type=Path)
     arguments = parser.parse_args()
 
     blocks = read_blocks(arguments.document)
-    run_blocks(blocks, arguments.program.resolve(), arguments.examples)
+    run_blocks(blocks, arguments.program.resolve(), arguments.examples, arguments.prefix)
     found = list(failures(arguments.document, blocks))
     commands, same = sum(len(block.commands) for block in blocks), sum(block.same for block in blocks)
     if commands < arguments.at_least or same < arguments.same_at_least:

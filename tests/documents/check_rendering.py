@@ -1,0 +1,87 @@
+#!/usr/bin/env python3
+"""Renders a manual page at 80 columns, in plain ASCII and in UTF-8, and fails where a reader would stumble: a line that is
+too long, a list that is not aligned, a path that seems to end in two dots, a character that ASCII has to guess, or a
+heading or an example that is not shown exactly as its source has it.
+"""
+
+import argparse
+import os
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+from run_examples import read_blocks
+
+COLUMNS = 80
+INDENT = " " * 11
+
+
+def render(page, locale):
+    environment = {"MANWIDTH": str(COLUMNS), "LC_ALL": locale, "PATH": os.environ["PATH"]}
+    command = ["man", "--local-file", str(page)]
+    return subprocess.run(command, env=environment, stdout=subprocess.PIPE, check=True).stdout.decode("utf-8")
+
+
+def example_lines(source):
+    """The lines of the examples as they must be shown."""
+    for block in read_blocks(source):
+        for command in block.commands:
+            yield "$ " + command.text.replace("\n", "\n> ")
+            yield from command.expected.splitlines()
+
+
+def headings(source):
+    """The headings of the sections and tasks, without the title of a Markdown document."""
+    first_level = 2 if source.suffix == ".md" else 1
+    for level, heading in re.findall(r"^(#+) (.*)$", source.read_text(encoding="utf-8"), re.MULTILINE):
+        if len(level) >= first_level:
+            yield heading.upper() if len(level) == first_level else "   " + heading
+
+
+def faults(text, titles, examples, locale):
+    lines = text.splitlines()
+    shown = set(lines)
+    for number, (line, following) in enumerate(zip(lines, lines[1:] + [""]), 1):
+        if len(line) > COLUMNS:
+            yield f"line {number} has {len(line)} columns: {line}"
+        if re.search(r"\w\.\.(?!\.)", line):
+            yield f"line {number} has a path with two dots: {line}"
+        if locale == "C" and not line.isascii():
+            yield f"line {number} is not ASCII: {line}"
+        item = re.match(r" +(?:[0-9]+\.|o) +(?=\S)", line)
+        if item and following.strip() and not re.match(r" +(?:[0-9]+\.|o) ", following):
+            if len(following) - len(following.lstrip()) != item.end():
+                yield f"line {number} begins an item that goes on in another column: {line}"
+    for heading in titles:
+        if heading not in shown:
+            yield f"heading not shown as it is in the source: {heading}"
+    for example in examples:
+        if any(line and INDENT + line not in shown for line in example.splitlines()):
+            yield f"not shown as it is in the source: {example}"
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--source", required=True, type=Path, help="what the page is made from")
+    parser.add_argument("--at-least", required=True, type=int, help="fewer lines of examples than these are a failure")
+    parser.add_argument("page", type=Path)
+    arguments = parser.parse_args()
+
+    examples = list(example_lines(arguments.source))
+    rendered = {locale: render(arguments.page, locale) for locale in ("C", "C.UTF-8")}
+    titles = list(headings(arguments.source))
+    found = [f"{locale}: {fault}" for locale, text in rendered.items() for fault in faults(text, titles, examples, locale)]
+    # ASCII shows what it lacks by something else, so that both must be alike.
+    bullets = rendered["C.UTF-8"].replace("\N{BULLET}", "o")
+    for ascii_line, line in zip(rendered["C"].splitlines(), bullets.splitlines()):
+        if ascii_line != line:
+            found.append(f"shown in ASCII as: {ascii_line}\nand in UTF-8 as: {line}")
+    if len(examples) < arguments.at_least:
+        found.append(f"only {len(examples)} lines of examples were found")
+    print("\n".join(found) or f"{len(examples)} lines of examples, no fault")
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
