@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Renders a manual page at 80 columns, in plain ASCII and in UTF-8, and fails where a reader would stumble: a line that is
-too long, a list that is not aligned, a path that seems to end in two dots, a character that ASCII has to guess, or a
-heading or an example that is not shown exactly as its source has it.
+"""Renders a manual page at 80 columns, in plain ASCII and in UTF-8, and fails where a reader would stumble.
+
+That is a line that is too long, a list that is not aligned, a path that seems to end in two dots, a character that
+ASCII has to guess, and a heading or an example that is not shown exactly as its source has it.
 """
 
 import argparse
@@ -71,7 +72,9 @@ def main():
     examples = list(example_lines(arguments.source))
     rendered = {locale: render(arguments.page, locale) for locale in ("C", "C.UTF-8")}
     titles = list(headings(arguments.source))
-    found = [f"{locale}: {fault}" for locale, text in rendered.items() for fault in faults(text, titles, examples, locale)]
+    found = []
+    for locale, text in rendered.items():
+        found += [f"{locale}: {fault}" for fault in faults(text, titles, examples, locale)]
     # ASCII shows what it lacks by something else, so that both must be alike.
     bullets = rendered["C.UTF-8"].replace("\N{BULLET}", "o")
     for ascii_line, line in zip(rendered["C"].splitlines(), bullets.splitlines()):

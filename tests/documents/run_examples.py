@@ -3,8 +3,8 @@
 
 An example is a fenced block that begins with a "$ " line. Such a line is a command, "> " lines continue it, and all
 others are what it prints on both streams. The blocks of a section share one shell, so a later one may look at "$?" or
-at a variable, and one fresh folder with copies of the example files. Every section runs in bash, and again in dash, which
-stands for every POSIX shell; a Markdown block marked "console bash" keeps its section out of dash.
+at a variable, and one fresh folder with copies of the example files. Every section runs in bash, and again in dash,
+which stands for every POSIX shell; a Markdown block marked "console bash" keeps its section out of dash.
 
 A Markdown block marked "console same" does with other tools what the block before it does: it runs in a fresh folder
 of its own, and its last command must print the same, as JSON where both are JSON.
