@@ -157,14 +157,14 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--program", required=True, type=Path, help="the program that the document calls Kovalt")
     parser.add_argument("--examples", required=True, type=Path, help="the folder of the example files")
-    parser.add_argument("--prefix", type=Path, help="the folder that the tool is installed in")
+    parser.add_argument("--prefix", default="/usr", type=Path, help="the folder that the tool is installed in")
     parser.add_argument("--at-least", required=True, type=int, help="fewer commands than these are a failure")
     parser.add_argument("--same-at-least", default=0, type=int, help="fewer blocks marked same are a failure")
     parser.add_argument("document", type=Path)
     arguments = parser.parse_args()
 
     blocks = read_blocks(arguments.document)
-    run_blocks(blocks, arguments.program.resolve(), arguments.examples, arguments.prefix)
+    run_blocks(blocks, arguments.program.resolve(), arguments.examples, arguments.prefix.resolve())
     found = list(failures(arguments.document, blocks))
     commands, same = sum(len(block.commands) for block in blocks), sum(block.same for block in blocks)
     if commands < arguments.at_least or same < arguments.same_at_least:
