@@ -16,7 +16,7 @@ literal { gsub(/\\/, "&&"); print; next }
     sub(/\].*/, "", link)
     $0 = substr($0, 1, RSTART - 1) link substr($0, RSTART + RLENGTH)
   }
-  gsub(/[\\_*]/, "\\\\&")
+  gsub(/[\\_*+]/, "\\\\&")
   gsub(/`/, "*")
   print
 }
