@@ -27,7 +27,7 @@ configure() {
 build() {
   local folder=$1
   shift
-  run_stage "Building $folder" cmake --build "build/$folder" ${1:+--target "$@"}
+  run_build_stage "Building $folder" cmake --build "build/$folder" ${1:+--target "$@"}
 }
 
 # Brings the targets of a preset up to date, or everything without a target.
