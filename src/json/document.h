@@ -7,12 +7,12 @@
 #include <cmath>
 
 #include "json/tuning/aborting_allocator.h"
-#include "json/tuning/chunk_allocator.h"
+#include "json/tuning/rapidjson_steps.h"
 
 namespace kovalt {
 
 /// The document of a run. Its memory pool takes chunks of 65,536 bytes and frees them together when it is destroyed.
-class Document : public rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<ChunkAllocator>,
+class Document : public rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<AbortingAllocator>,
                                                    AbortingAllocator> {
  public:
   using GenericDocument::GenericDocument;

@@ -9,10 +9,10 @@
 namespace kovalt {
 
 /// RapidJSON does not check whether an allocation failed; this allocator ends the process abnormally instead. It is for
-/// RapidJSON's stacks, which only ever reallocate. The operation is not inline: RapidJSON's loops are faster without
-/// it.
+/// RapidJSON's pools and stacks. The operations are not inline: RapidJSON's loops are faster without them.
 class AbortingAllocator : public rapidjson::CrtAllocator {
  public:
+  void* Malloc(std::size_t size);
   void* Realloc(void* memory, std::size_t size, std::size_t newSize);
 };
 

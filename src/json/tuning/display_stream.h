@@ -2,14 +2,11 @@
 
 // The stream between the library's writer and standard output.
 
-#include <rapidjson/writer.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string_view>
 
-#include "json/tuning/aborting_allocator.h"
 #include "json/tuning/unescaped.h"
 
 namespace kovalt {
@@ -79,22 +76,3 @@ class DisplayStream {
 };
 
 }  // namespace kovalt
-
-namespace rapidjson {
-
-/// How the pretty writer indents.
-template <>
-inline void PutN(kovalt::DisplayStream& stream, char c, std::size_t n) {
-  stream.putRepeated(c, n);
-}
-
-/// The step of the writer that takes what needs no look at each character. Returns whether any of the string is left,
-/// of which the writer then takes one character by itself.
-template <>
-inline bool Writer<kovalt::DisplayStream, UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanWriteUnescapedString(
-    GenericStringStream<UTF8<>>& text, std::size_t length) {
-  text.src_ += os_->putUnescaped({text.src_, length - text.Tell()});
-  return text.Tell() < length;
-}
-
-}  // namespace rapidjson

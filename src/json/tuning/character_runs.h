@@ -1,0 +1,123 @@
+#pragma once
+
+// How far runs of characters go of which the reader has to look at none by itself.
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
+namespace kovalt {
+
+/// Whether a JSON text may have `character` between two tokens.
+inline bool isBlank(char character) {
+  return character == ' ' || character == '\n' || character == '\r' || character == '\t';
+}
+
+/// Whether `character` stands for itself in a JSON string.
+inline bool isPlain(char character) {
+  return static_cast<unsigned char>(character) >= ' ' && character != '"' && character != '\\';
+}
+
+/// Eight characters at once, on every processor.
+struct WordBlock {
+  static constexpr std::size_t kSize = 8;
+
+  /// How many of the characters at the front of the block stand for themselves.
+  static std::size_t countPlain(const char* block) {
+    constexpr std::uint64_t kHighBits = 0x80 * kOnes;
+    const std::uint64_t word = load(block);
+    const std::uint64_t quotes = word ^ '"' * kOnes;
+    const std::uint64_t backslashes = word ^ '\\' * kOnes;
+    // Zero unless a byte is below a space, or zero in one of the last two. Which one it is depends on the byte order.
+    const std::uint64_t others =
+        ((word - ' ' * kOnes) & ~word) | ((quotes - kOnes) & ~quotes) | ((backslashes - kOnes) & ~backslashes);
+    std::size_t count = (others & kHighBits) == 0 ? kSize : 0;
+    while (count < kSize && isPlain(block[count])) {
+      ++count;
+    }
+    return count;
+  }
+
+  /// How many of the characters at the front of the block are blanks.
+  static std::size_t countBlanks(const char* block) {
+    std::size_t count = load(block) == ' ' * kOnes ? kSize : 0;
+    while (count < kSize && isBlank(block[count])) {
+      ++count;
+    }
+    return count;
+  }
+
+ private:
+  static constexpr std::uint64_t kOnes = 0x0101010101010101;
+
+  static std::uint64_t load(const char* block) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, block, sizeof(word));
+    return word;
+  }
+};
+
+#ifdef __SSE2__
+/// Sixteen characters at once.
+struct Sse2Block {
+  static constexpr std::size_t kSize = 16;
+
+  /// How many of the characters at the front of the block stand for themselves.
+  static std::size_t countPlain(const char* block) {
+    const __m128i characters = load(block);
+    const __m128i lastControl = _mm_set1_epi8(0x1F);
+    const __m128i controls = _mm_cmpeq_epi8(_mm_max_epu8(characters, lastControl), lastControl);
+    return countZeros(_mm_or_si128(controls, _mm_or_si128(equal(characters, '"'), equal(characters, '\\'))));
+  }
+
+  /// How many of the characters at the front of the block are blanks.
+  static std::size_t countBlanks(const char* block) {
+    const __m128i characters = load(block);
+    const __m128i lineEnds = _mm_or_si128(equal(characters, '\n'), equal(characters, '\r'));
+    const __m128i blanks = _mm_or_si128(_mm_or_si128(equal(characters, ' '), equal(characters, '\t')), lineEnds);
+    return countZeros(_mm_cmpeq_epi8(blanks, _mm_setzero_si128()));
+  }
+
+ private:
+  static __m128i load(const char* block) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(block)); }
+
+  static __m128i equal(__m128i characters, char wanted) { return _mm_cmpeq_epi8(characters, _mm_set1_epi8(wanted)); }
+
+  /// How many bytes at the front are zero, where the others are 0xFF.
+  static std::size_t countZeros(__m128i bytes) {
+    return static_cast<std::size_t>(__builtin_ctz(static_cast<unsigned>(_mm_movemask_epi8(bytes)) | 1U << kSize));
+  }
+};
+
+using CharacterBlock = Sse2Block;
+#else
+using CharacterBlock = WordBlock;
+#endif
+
+/// The first character from `text` on that does not stand for itself. There must be one, and whole blocks readable.
+template <typename Block>
+const char* endOfPlain(const char* text) {
+  std::size_t count = Block::kSize;
+  while (count == Block::kSize) {
+    count = Block::countPlain(text);
+    text += count;
+  }
+  return text;
+}
+
+/// The first character from `text` on that is no blank. There must be one, and whole blocks readable.
+template <typename Block>
+const char* endOfBlanks(const char* text) {
+  std::size_t count = Block::kSize;
+  while (count == Block::kSize) {
+    count = Block::countBlanks(text);
+    text += count;
+  }
+  return text;
+}
+
+}  // namespace kovalt

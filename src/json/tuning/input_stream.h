@@ -1,0 +1,106 @@
+#pragma once
+
+// The stream between a file and RapidJSON's reader.
+
+#include <cstddef>
+#include <cstdio>
+#include <cstring>
+
+#include "json/tuning/character_runs.h"
+
+namespace kovalt {
+
+/// The bytes of a file, of which it holds 8,192 at a time. After them stand NUL bytes, at which every run of characters
+/// ends.
+class InputBuffer {
+ public:
+  /// `file` must stay open as long as the buffer is read.
+  explicit InputBuffer(std::FILE* file);
+
+  /// The first byte.
+  [[nodiscard]] const char* begin() const { return bytes_; }
+
+  /// The place of the byte that stands at `place`, a NUL byte; after the last byte held, reads the next ones and
+  /// returns the first of them. At the end of the file, that is one of the NUL bytes after the last byte.
+  const char* settle(const char* place);
+
+  /// Whether nothing is left of the file at `place`, to which `settle` came.
+  [[nodiscard]] bool isEnd(const char* place) const { return place == end_; }
+
+  /// How many bytes of the file stand before `place`.
+  [[nodiscard]] std::size_t offset(const char* place) const {
+    return before_ + static_cast<std::size_t>(place - bytes_);
+  }
+
+ private:
+  static constexpr std::size_t kSize = 8192;
+
+  void fill();
+
+  std::FILE* file_;
+  std::size_t before_ = 0;     ///< How many bytes of the file stand before the ones held.
+  const char* end_ = nullptr;  ///< After the last byte held.
+  // Clearing it would take longer than a small file.
+  // cppcheck-suppress uninitMemberVarPrivate
+  char bytes_[kSize + CharacterBlock::kSize];
+};
+
+/// An input stream of RapidJSON. Its copies are meant to be used one after the other.
+class InputStream {
+ public:
+  using Ch = char;
+
+  explicit InputStream(InputBuffer& buffer) : next_(buffer.begin()), buffer_(&buffer) { settle(); }
+
+  /// The next character; NUL at the end of the file.
+  [[nodiscard]] char Peek() const { return *next_; }
+
+  /// Takes the next character.
+  char Take() {
+    const char taken = *next_++;
+    settle();
+    return taken;
+  }
+
+  /// How many characters were taken.
+  [[nodiscard]] std::size_t Tell() const { return buffer_->offset(next_); }
+
+  /// Whether nothing is left. A NUL character is content like any other.
+  [[nodiscard]] bool isAtEnd() const { return buffer_->isEnd(next_); }
+
+  /// Takes all blanks that come next.
+  void skipBlanks() {
+    while (isBlank(*next_)) {
+      next_ = endOfBlanks<CharacterBlock>(next_ + 1);
+      settle();
+    }
+  }
+
+  /// Takes characters that stand for themselves in a string and adds them to `text`: up to one that does not, or as
+  /// many as the buffer holds.
+  template <typename Text>
+  void takePlain(Text& text) {
+    const char* const end = endOfPlain<CharacterBlock>(next_);
+    const auto size = static_cast<std::size_t>(end - next_);
+    std::memcpy(text.Push(static_cast<unsigned>(size)), next_, size);
+    next_ = end;
+    settle();
+  }
+
+  /// Named by the reader, but never called.
+  static char* PutBegin() { return nullptr; }
+  static std::size_t PutEnd(char* /*begin*/) { return 0; }
+  static void Put(char /*character*/) {}
+
+ private:
+  void settle() {
+    if (*next_ == '\0') {
+      next_ = buffer_->settle(next_);
+    }
+  }
+
+  const char* next_;
+  InputBuffer* buffer_;
+};
+
+}  // namespace kovalt

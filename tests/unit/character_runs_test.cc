@@ -1,0 +1,71 @@
+#include "json/tuning/character_runs.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace kovalt::test {
+namespace {
+
+/// Both kinds of blocks, where the compiler knows both: the program only uses one.
+template <typename Block>
+class CharacterRuns : public testing::Test {};
+
+#ifdef __SSE2__
+using Blocks = testing::Types<WordBlock, Sse2Block>;
+#else
+using Blocks = testing::Types<WordBlock>;
+#endif
+TYPED_TEST_SUITE(CharacterRuns, Blocks);
+
+bool standsForItself(int code) { return code >= 0x20 && code != '"' && code != '\\'; }
+
+bool isWhiteSpace(int code) { return code == ' ' || code == '\n' || code == '\r' || code == '\t'; }
+
+/// A text in memory of its own, so that a sanitizer sees a look behind the last whole block.
+template <typename Block>
+std::string inBlocks(std::string text) {
+  text.resize(text.size() + Block::kSize);
+  text.shrink_to_fit();
+  return text;
+}
+
+TYPED_TEST(CharacterRuns, EndAtEachCharacterThatEndsThemWhereverItStands) {
+  for (int code = 0; code < 256; ++code) {
+    for (std::size_t length = 0; length < 40; ++length) {
+      const auto character = static_cast<char>(code);
+      const std::string plain = inBlocks<TypeParam>(std::string(length, 'a') + character);
+      const std::string blanks = inBlocks<TypeParam>(std::string(length, ' ') + character);
+      EXPECT_EQ(static_cast<std::size_t>(endOfPlain<TypeParam>(plain.data()) - plain.data()),
+                length + (standsForItself(code) ? 1 : 0))
+          << code;
+      EXPECT_EQ(static_cast<std::size_t>(endOfBlanks<TypeParam>(blanks.data()) - blanks.data()),
+                length + (isWhiteSpace(code) ? 1 : 0))
+          << code;
+    }
+  }
+}
+
+TYPED_TEST(CharacterRuns, GoOnOverEachCharacterOfTheirKindWhateverStandsBesideIt) {
+  for (int code = 0; code < 256; ++code) {
+    const std::string pair = {static_cast<char>(code), static_cast<char>(code ^ 1)};
+    for (const int other : {code, code ^ 1}) {
+      std::string texts = pair + pair + pair + pair;
+      texts[5] = static_cast<char>(other);
+      const std::string text = inBlocks<TypeParam>(texts);
+      std::size_t plain = 0;
+      std::size_t blanks = 0;
+      while (standsForItself(static_cast<unsigned char>(text[plain]))) {
+        ++plain;
+      }
+      while (isWhiteSpace(static_cast<unsigned char>(text[blanks]))) {
+        ++blanks;
+      }
+      EXPECT_EQ(static_cast<std::size_t>(endOfPlain<TypeParam>(text.data()) - text.data()), plain) << code;
+      EXPECT_EQ(static_cast<std::size_t>(endOfBlanks<TypeParam>(text.data()) - text.data()), blanks) << code;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kovalt::test

@@ -1,0 +1,184 @@
+// RapidJSON's reader takes the same out of a file through the stream here as through its own.
+
+#include "json/tuning/input_stream.h"
+
+#include <gtest/gtest.h>
+#include <rapidjson/filereadstream.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "json/document.h"
+#include "json/value_to_text.h"
+
+namespace kovalt::test {
+namespace {
+
+/// How much of a file is read at once.
+constexpr std::size_t kPiece = 8192;
+
+/// What a reader says to a text.
+struct Outcome {
+  rapidjson::ParseErrorCode error = rapidjson::kParseErrorNone;
+  std::size_t offset = 0;  ///< Of the error, or of what is left.
+  bool isAtEnd = false;
+  std::string text;
+};
+
+bool operator==(const Outcome& left, const Outcome& right) {
+  return left.error == right.error && left.offset == right.offset && left.isAtEnd == right.isAtEnd &&
+         left.text == right.text;
+}
+
+std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
+  return out << outcome.error << " at " << outcome.offset << (outcome.isAtEnd ? ", at the end: " : ": ")
+             << outcome.text;
+}
+
+/// Whether nothing is left of RapidJSON's own stream, which stays in its place only there.
+bool isAtEnd(rapidjson::FileReadStream& stream) {
+  const std::size_t offset = stream.Tell();
+  stream.Take();
+  return stream.Tell() == offset;
+}
+
+bool isAtEnd(InputStream& stream) { return stream.isAtEnd(); }
+
+template <typename Stream>
+Outcome outcomeOf(Stream& stream) {
+  Document document;
+  document.ParseStream(stream);
+  Outcome outcome;
+  outcome.error = document.GetParseError();
+  if (document.HasParseError()) {
+    outcome.offset = document.GetErrorOffset();
+    return outcome;
+  }
+  outcome.text = valueToText(document, false);
+  outcome.offset = stream.Tell();
+  outcome.isAtEnd = isAtEnd(stream);
+  return outcome;
+}
+
+std::FILE* openText(std::string& text) { return fmemopen(text.data(), text.size(), "r"); }
+
+void compare(std::string text) {
+  std::FILE* file = openText(text);
+  std::string bytes(kPiece, '\0');
+  rapidjson::FileReadStream libraryStream(file, bytes.data(), bytes.size());
+  const Outcome expected = outcomeOf(libraryStream);
+  std::fclose(file);
+
+  file = openText(text);
+  InputBuffer buffer(file);
+  InputStream stream(buffer);
+  EXPECT_EQ(stream.isAtEnd(), text.empty());
+  const Outcome outcome = outcomeOf(stream);
+  EXPECT_EQ(outcome, expected) << text.substr(std::min(text.find_first_not_of(' '), text.size()));
+  std::fclose(file);
+}
+
+/// The text with the end of the first or the second piece at each of its places.
+void compareAroundPieceEnds(const std::string& text) {
+  for (std::size_t inside = 0; inside <= text.size() + 1; ++inside) {
+    compare(std::string(kPiece - inside, ' ') + text);
+    compare(std::string(kPiece - inside, ' ') + text + std::string(kPiece, '\n'));
+  }
+}
+
+const std::vector<std::string>& texts() {
+  static const std::vector<std::string> kTexts = {
+      "",
+      "{}",
+      "[]",
+      R"({"a":1,"bc":[true,false,null],"":{"d":-12.5e-3}})",
+      R"(["abc\ndefg\\hijklm\"nopqrs\u00e9tuvwxyz\ud83d\ude00\/\b\f\r\t", "plain text of some length", "\u0000"])",
+      "[0,-0,1.5,-1e5,1E+5,1e-5,123456789012,12345678901234567890123,4294967295,4294967296,-2147483649]",
+      "[18446744073709551615,18446744073709551616,-9223372036854775808,-9223372036854775809,0.1234567890123456789]",
+      "[1e308,1e309,1]",
+      "\t\r\n {\n    \"laid\":\t\r\n    \"out\"  ,\n                                  \"far\" : [ ]\n}  \n\n",
+      "\"gr\xC3\xB6\xC3\x9F"
+      "e \xE6\xBC\xA2\xE5\xAD\x97 \xFF\xFE raw bytes\"",
+      std::string("[1]\0", 4),
+      std::string("[1]\0[2]", 7),
+      std::string("\0[1]", 4),
+      std::string("[\"a\0b\"]", 7),
+      "[1]]",
+      "nul",
+      "truth",
+      "\"\\ud83d\\u0041\"",
+      "\"\\ud83dx\"",
+      "\"\\x\"",
+      "\"open",
+      "[1,]",
+      "{\"a\" 1}",
+      "{a:1}",
+      "\"line\nend\"",
+      "[1.]",
+      "[1e]",
+      "[-]",
+      "[01]",
+  };
+  return kTexts;
+}
+
+TEST(InputStream, GivesTheReaderWhatItsOwnStreamGivesWhereverAPieceEnds) {
+  for (const std::string& text : texts()) {
+    compare(text);
+    compareAroundPieceEnds(text);
+  }
+}
+
+TEST(InputStream, GivesTheReaderWhatItsOwnStreamGivesOfDamagedTexts) {
+  std::mt19937 random(1);
+  const auto below = [&random](std::size_t limit) { return random() % limit; };
+  for (int round = 0; round < 4000; ++round) {
+    std::string text = texts()[1 + below(texts().size() - 1)];
+    for (std::size_t damage = 1 + below(3); damage > 0 && !text.empty(); --damage) {
+      const std::size_t place = below(text.size());
+      if (below(3) == 0) {
+        text.erase(place, 1 + below(4));
+      } else if (below(2) == 0) {
+        text[place] = static_cast<char>(below(256));
+      } else {
+        text.insert(place, 1, R"(0123"\{}[],:. eE+-)"[below(18)]);
+      }
+    }
+    compare(text);
+    compare(std::string(kPiece - below(text.size() + 2), ' ') + text);
+  }
+}
+
+TEST(InputStream, StaysAtTheEnd) {
+  std::string text = "ab";
+  std::FILE* file = openText(text);
+  InputBuffer buffer(file);
+  InputStream stream(buffer);
+  EXPECT_EQ(stream.Take(), 'a');
+  EXPECT_EQ(stream.Take(), 'b');
+  for (int i = 0; i < 40; ++i) {
+    EXPECT_TRUE(stream.isAtEnd());
+    EXPECT_EQ(stream.Take(), '\0');
+    EXPECT_EQ(stream.Tell(), 2U);
+  }
+  std::fclose(file);
+}
+
+TEST(InputStream, LosesNothingOfTextsThatFillSeveralPieces) {
+  for (std::size_t size = 2 * kPiece - 20; size < 2 * kPiece + 20; ++size) {
+    std::string run;
+    while (run.size() < size) {
+      run += static_cast<char>('a' + run.size() % 23);
+    }
+    compare('"' + run + '"');
+    compare('"' + run);
+    compare('[' + std::string(size, ' ') + '1' + std::string(size, ' ') + ']');
+    compare(std::string(size, '1'));
+    compare("0." + std::string(size, '1'));
+    compare(std::string(size, ' '));
+  }
+}
+
+}  // namespace
+}  // namespace kovalt::test
