@@ -1,4 +1,8 @@
-"""Makes the benchmark's input files, the same bytes every time."""
+"""Makes the benchmark's input files, the same bytes every time.
+
+Large files come in five kinds. Each is one object with the array `items` of objects that have a number `id` and a text
+`name`, and after it the object `meta`, so that `meta.version` stands at the end of the file.
+"""
 
 import json
 import random
@@ -6,7 +10,21 @@ from pathlib import Path
 
 SEED = 20261121
 MEGABYTE = 1_000_000
-SIZES = (10_000, 100_000, 1_000_000)
+#: A file repeats so many bytes of distinct elements, more than a processor's caches hold, until it has its size.
+DISTINCT = 4 * MEGABYTE
+KINDS = {
+    "records": "compact records",
+    "laid_out": "records laid out with blanks",
+    "catalogue": "a deep catalogue laid out with blanks",
+    "texts": "long texts",
+    "coordinates": "coordinates",
+}
+#: The name of the last element, which no other has.
+LAST = "the-last"
+
+WORDS = ("größer", "Straße", "naïve", "Übermut", "jalapeño", "Ærø", "сообщение", "данные", "привет", "μετάφραση",
+         "λόγος", "日本語", "翻訳", "文字列", "데이터", "ข้อความ", "message", "delivery", "the", "and", "of", "server", "ready", "🙂")
+ESCAPES = ("\\n", "\\t", '\\"', "\\\\", "\\/", "\\u00e9", "\\ud83d\\ude00", "\\u2028")
 
 
 def small_configuration():
@@ -27,42 +45,110 @@ def record(number, rng):
     }
 
 
+def category(number, rng, depth=0):
+    """A category with articles and the categories below it, fifteen objects and arrays deep."""
+    articles = [{"id": rng.randrange(1 << 20), "name": f"article {rng.randrange(10_000)}", "stock": rng.randrange(500),
+                 "price": {"amount": round(rng.random() * 900, 2), "currency": "EUR"}} for _ in range(2)]
+    below = [category(rng.randrange(1 << 20), rng, depth + 1)] if depth < 6 else []
+    return {"id": number, "name": f"category-{number:07d}", "articles": articles, "categories": below}
+
+
+def message(number, rng):
+    """As JSON text, because the escapes in it are to stay as they are."""
+    words = rng.choices(WORDS, k=rng.randrange(10, 120))
+    for position in range(rng.randrange(8), len(words), 8):
+        words[position] += rng.choice(ESCAPES)
+    return (f'{{"id":{number},"name":"message-{number:07d}","from":"{rng.choice(WORDS)}",'
+            f'"sent":{rng.randrange(1 << 31)},"read":{rng.choice(("true", "false"))},"text":"{" ".join(words)}"}}')
+
+
+def feature(number, rng):
+    """An area with numbers of 15 digits for its corners."""
+    corners = [[float(f"{rng.uniform(10, 99):.13f}"), float(f"{rng.uniform(10, 90):.13f}")]
+               for _ in range(rng.randrange(20, 200))]
+    return {"id": number, "name": f"area-{number:07d}", "type": "Feature",
+            "geometry": {"type": "Polygon", "coordinates": [corners]}}
+
+
+def compact(value):
+    return json.dumps(value, ensure_ascii=False, separators=(",", ":"))
+
+
+def laid_out(value, indent):
+    """The text of a value on a line of the array `items`."""
+    return json.dumps(value, ensure_ascii=False, indent=indent).replace("\n", "\n" + 2 * indent * " ")
+
+
+ELEMENTS = {
+    "records": lambda number, rng: compact(record(number, rng)),
+    "laid_out": lambda number, rng: laid_out(record(number, rng), 2),
+    "catalogue": lambda number, rng: laid_out(category(number, rng), 4),
+    "texts": message,
+    "coordinates": lambda number, rng: compact(feature(number, rng)),
+}
+
+
+def write_kind(path, kind, size):
+    """A file of about so many bytes."""
+    rng = random.Random(f"{SEED} {kind}")
+    indent = {"laid_out": 2, "catalogue": 4}.get(kind, 0)
+    outer, inner = ("\n" + indent * " ", "\n" + 2 * indent * " ") if indent else ("", "")
+    colon = ": " if indent else ":"
+    distinct = []
+    length = 0
+    while length < min(size, DISTINCT):
+        distinct.append((ELEMENTS[kind](len(distinct), rng) + "," + inner).encode())
+        length += len(distinct[-1])
+    block = b"".join(distinct)
+    with path.open("wb") as file:
+        file.write(f'{{{outer}"items"{colon}[{inner}'.encode())
+        while file.tell() + len(block) <= size:
+            file.write(block)
+        for element in distinct:
+            if file.tell() + len(element) > size:
+                break
+            file.write(element)
+        last = compact({"id": len(distinct), "name": LAST}) if indent == 0 else laid_out(
+            {"id": len(distinct), "name": LAST}, indent)
+        file.write(f'{last}{outer}],{outer}"meta"{colon}{{{inner}"version"{colon}1{outer}}}'.encode())
+        file.write(b"\n}" if indent else b"}")
+
+
 def write(path, value, indent=None):
     separators = (",", ":") if indent is None else None
     path.write_text(json.dumps(value, ensure_ascii=False, indent=indent, separators=separators), encoding="utf-8")
 
 
-def write_large(path, megabytes, rng):
-    """A configuration of about so many megabytes, without white space, written piece by piece."""
-    with path.open("w", encoding="utf-8") as file:
-        size = file.write('{"meta":{"version":1},"nodes":[')
-        number = 0
-        while size < megabytes * MEGABYTE:
-            text = json.dumps(record(number, rng), ensure_ascii=False, separators=(",", ":"))
-            size += file.write("," * (number > 0) + text)
-            number += 1
-        file.write("]}")
-
-
-def make(folder: Path):
-    rng = random.Random(SEED)
+def make_small(folder: Path):
     write(folder / "small.json", small_configuration(), indent=2)
-    for megabytes in (5, 50, 200):
-        write_large(folder / f"large{megabytes}.json", megabytes, rng)
-    for size in SIZES:
-        write(folder / f"names_a{size}.json", {f"a{i}": i for i in range(size)})
-        write(folder / f"names_b{size}.json", {f"b{i}": i for i in range(size)})
-        write(folder / f"below_a{size}.json", {"top": {f"a{i}": i for i in range(size)}})
-        write(folder / f"array{size}.json", {"list": list(range(size))})
-        write(folder / f"numbers{size}.json", {"list": [rng.randrange(1 << 31) for _ in range(size)]})
-        write(folder / f"strings{size}.json", {"list": [f"text {i}, and more" for i in range(size)]})
-        write(folder / f"distinct{size}.json", {"links": [{"id": i, "host": f"h{i}"} for i in range(size)]})
-        write(folder / f"few{size}.json", {"links": [{"id": i % 50, "host": f"h{i % 50}"} for i in range(size)]})
+    (folder / "small.ini").write_text("[network]\nwebSocketPort = 8765\n", encoding="utf-8")
+
+
+def make_growth(folder: Path, size):
+    """What the growth of reads and merges is measured with."""
+    rng = random.Random(f"{SEED} growth {size}")
+    write(folder / f"names_a{size}.json", {f"a{i}": i for i in range(size)})
+    write(folder / f"names_b{size}.json", {f"b{i}": i for i in range(size)})
+    write(folder / f"below_a{size}.json", {"top": {f"a{i}": i for i in range(size)}})
+    write(folder / f"array{size}.json", {"list": list(range(size))})
+    write(folder / f"numbers{size}.json", {"list": [rng.randrange(1 << 31) for _ in range(size)]})
+    write(folder / f"strings{size}.json", {"list": [f"text {i}, and more" for i in range(size)]})
+    write(folder / f"distinct{size}.json", {"links": [{"id": i, "host": f"h{i}"} for i in range(size)]})
+    write(folder / f"few{size}.json", {"links": [{"id": i % 50, "host": f"h{i % 50}"} for i in range(size)]})
+
+
+def make_options(folder: Path, size):
+    """What calls with so many options work on: an object at the root and one below, and arrays to select in."""
+    members = {f"k{i}": i for i in range(size)}
+    write(folder / f"root{size}.json", members)
+    write(folder / f"deep{size}.json", {"o": members})
+    write(folder / f"select_number{size}.json", {"l": [{"i": i, "v": i} for i in range(size)]})
+    write(folder / f"select_text{size}.json", {"l": [{"i": str(i), "v": i} for i in range(size)]})
 
 
 if __name__ == "__main__":
     import sys
 
-    target = Path(sys.argv[1])
-    target.mkdir(parents=True, exist_ok=True)
-    make(target)
+    if len(sys.argv) != 4 or sys.argv[1] not in KINDS:
+        sys.exit(f"make_data.py KIND MEGABYTES FILE, where KIND is one of: {' '.join(KINDS)}")
+    write_kind(Path(sys.argv[3]), sys.argv[1], int(float(sys.argv[2]) * MEGABYTE))

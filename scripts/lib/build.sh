@@ -6,8 +6,8 @@ build_packages=(cmake ninja-build g++ libc6-dev rapidjson-dev)
 # What the packages need besides.
 package_packages=(dpkg-dev scdoc)
 # What the tests need besides.
-test_packages=(bash-completion clang-format dpkg-dev fakeroot fish jq libgtest-dev man-db mandoc python3 scdoc strace tmux
-  valgrind zsh)
+test_packages=(bash-completion clang-format dpkg-dev fakeroot fish gnuplot-nox jq libgtest-dev man-db mandoc python3 scdoc
+  strace tmux valgrind zsh)
 
 # Configures build/FOLDER from a preset, with further arguments for CMake, where that was not done in this place: a
 # checkout that was copied or moved brings the build folders of the old one.
