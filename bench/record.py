@@ -68,11 +68,11 @@ class Record:
         calls = [Call("Kovalt", command_of(size)) for size in sizes]
         small, middle, large = sizes
         row = {"group": group, "work": work, "sizes": sizes}
-        seconds = [measuring.run(call)[0] for call in calls[:2]]
-        if seconds[1] > 2:
+        seconds, processor, _ = zip(*(measuring.run(call) for call in calls[:2]))
+        if processor[1] > 2:
             row |= {"seconds": [rounded(value) for value in seconds] + [None], "instructions": None}
             self.judge(group, work, f"exponent in time, {small:,} to {middle:,}; too slow to count",
-                       exponent(*seconds, middle / small), at_most=1.15)
+                       exponent(*processor, middle / small), at_most=1.15)
         else:
             counts = [measuring.instructions(call.arguments()) for call in calls[:2]]
             samples = measuring.in_turns(calls[1:], rounds, patience=patience)
