@@ -83,7 +83,8 @@ class Judgement(unittest.TestCase):
         self.measuring.run = lambda call, runs=1: {"tool": (2.0, 2.0, 10), "other": (1.0, 1.0, 5)}[call.program]
         for reference in (False, True):
             self.record.compare("g", "w", [Call("tool", ""), Call("other", "", reference=reference)])
-            self.assertEqual(not reference, self.record.comparisons[-1]["rows"][1]["ahead"])
+            row = self.record.comparisons[-1]["rows"][1]
+            self.assertEqual([not reference, not reference], [row["ahead"], row["ahead_in_memory"]])
 
     def test_different_answers_end_the_benchmark(self):
         one, same, other = (Call("p", ["printf", text]) for text in ('{"a":1}', '{"a": 1}', '{"a":2}'))

@@ -100,7 +100,7 @@ class Measuring:
         seconds, processor, memory = zip(*lines)
         return statistics.median(seconds), statistics.median(processor), int(max(memory))
 
-    def in_turns(self, calls, rounds, runs=1, patience=3.0):
+    def in_turns(self, calls, rounds, runs=1, patience=2.5):
         """Samples of each call, one a round: as many rounds as asked for, but for calls that have used up the patience,
         which is in seconds, or their own number of rounds. The first call, with which the others are compared, takes
         part as long as any."""

@@ -32,7 +32,7 @@ class Record:
         print(f"{group}: {work}: {what}: {value:,.3f} ({limit}: {'held' if held else 'MISSED'})", flush=True)
         return bound
 
-    def compare(self, group, work, calls, rounds=21, runs=1, patience=3.0, size=None, memory_at_most=None):
+    def compare(self, group, work, calls, rounds=21, runs=1, patience=2.5, size=None, memory_at_most=None):
         """Measures the first call, which is the tool's, beside the others."""
         samples = self.measuring.in_turns(calls, rounds, runs, patience)
         tool = samples[0]
@@ -46,6 +46,7 @@ class Record:
                 row["memory_times"] = rounded(max(taken.memory) / max(tool.memory))
                 row["reference"] = call.reference
                 row["ahead"] = row["times"] < 1 and not call.reference
+                row["ahead_in_memory"] = row["memory_times"] < 1 and not call.reference
                 if call.time_bound is not None:
                     row["bound"] = self.judge(group, work, f"time of {call.program}, times Kovalt's", row["times"],
                                               at_least=1 / call.time_bound)
@@ -54,14 +55,14 @@ class Record:
         if size is not None:
             comparison["file_bytes"] = size
             if memory_at_most is not None:
-                rows[0]["bound"] = self.judge(group, work, "peak memory, bytes", rows[0]["memory"],
+                rows[0]["bound"] = self.judge(group, work, "peak memory", rows[0]["memory"],
                                               at_most=memory_at_most)
         self.comparisons.append(comparison)
         print(f"{group}: {work}: " + ", ".join(
             f"{row['program']} {row['seconds']:g} s {row['memory'] / 1e6:.1f} MB"
             + (f" ({row['times']:.2f} times)" if "times" in row else "") for row in rows), flush=True)
 
-    def grow(self, group, work, sizes, command_of, rounds=11, patience=3.0):
+    def grow(self, group, work, sizes, command_of, rounds=11, patience=2.5):
         """Measures the tool at three sizes: the exponent in instructions between the first two, in time between the
         last two. Where a call is too slow for its instructions to be counted, the time takes their place."""
         measuring = self.measuring
@@ -69,7 +70,7 @@ class Record:
         small, middle, large = sizes
         row = {"group": group, "work": work, "sizes": sizes}
         seconds, processor, _ = zip(*(measuring.run(call) for call in calls[:2]))
-        if processor[1] > 2:
+        if processor[1] > 0.3:
             row |= {"seconds": [rounded(value) for value in seconds] + [None], "instructions": None}
             self.judge(group, work, f"exponent in time, {small:,} to {middle:,}; too slow to count",
                        exponent(*processor, middle / small), at_most=1.15)

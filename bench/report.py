@@ -11,7 +11,7 @@ from pathlib import Path
 
 TERMS = """\
 - **Times Kovalt's**: what a program takes, divided by what Kovalt takes for the same. In every comparison more is
-  better for Kovalt. A program that does the same in less time is marked as **ahead**.
+  better for Kovalt. A program that does the same with less is marked as **ahead**.
 - **Bare parse**: the least program around the same library, RapidJSON, with its own stream and the same buffer: it
   parses the file into a document and ends. **Bare parse and write** saves the document too, indented. **The plain way**
   prints it by way of the library's own string buffer. They, `cat` and a program that returns 0 are measures, not peers.
@@ -40,12 +40,16 @@ def limit_text(bound):
     """A bound on one line: the limit, and whether it was kept."""
     if "at_least" in bound:
         limit = f"at least {bound['at_least']:.2f}"
+    elif "memory" in bound["what"]:
+        limit = f"at most {memory_text(bound['at_most'])}"
     else:
         limit = f"at most {bound['at_most']:,.15g}"
     return f"{limit}: {'held' if bound['held'] else '**MISSED**'}"
 
 
 def value_text(bound):
+    if "memory" in bound["what"]:
+        return memory_text(bound["value"])
     return f"{bound['value']:,.0f}" if bound["value"] >= 1000 else f"{bound['value']:.2f}"
 
 
@@ -65,8 +69,8 @@ def comparison_table(comparisons):
         for row in comparison["rows"]:
             first = row is comparison["rows"][0]
             notes = ["**ahead**"] if row.get("ahead") else []
-            if "bound" in row:
-                notes.append(("memory " if first else "") + limit_text(row["bound"]))
+            notes += ["**ahead** in memory"] if row.get("ahead_in_memory") else []
+            notes += [limit_text(row["bound"])] if "bound" in row else []
             program = f"**{row['program']}**" if first else row["program"]
             rows.append([comparison["work"] + size if first else "", program, time_text(row["seconds"]),
                          "1" if first else figure(row["times"]), memory_text(row["memory"]),
@@ -90,8 +94,10 @@ def summary(data):
     missed = [bound for bound in bounds if not bound["held"]]
     lines = [f"Bounds that the tool is held to: {len(bounds)}, missed: {len(missed)}{':' if missed else '.'}"]
     lines += ["", *[f"- {bound_text(bound)}" for bound in missed]] if missed else []
-    ahead = [f"- {row['program']}: {comparison['group'].lower()}, {comparison['work']}: {figure(row['times'])} times "
-             "Kovalt's time" for comparison in data["comparisons"] for row in comparison["rows"] if row.get("ahead")]
+    ahead = [f"- {row['program']}: {comparison['group'].lower()}, {comparison['work']}: {figure(row[times])} times "
+             f"Kovalt's {what}" for comparison in data["comparisons"] for row in comparison["rows"]
+             for mark, times, what in (("ahead", "times", "time"), ("ahead_in_memory", "memory_times", "memory"))
+             if row.get(mark)]
     lines += ["", "Programs ahead of Kovalt:", "", *(ahead or ["- no program in any row"])]
     return "\n".join(lines)
 
