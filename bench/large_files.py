@@ -62,9 +62,12 @@ def read(m, record, peers, name, kind, work, megabytes):
 
 
 def load(m, record, name, work):
-    # A removal that finds nothing loads the document as an edit does, and nothing is saved.
-    loading = f"{m.tool} --file {name} --remove no.such --read meta.version"
+    # A removal of a member of the root that is not there loads the document as an edit does, and nothing is saved.
+    loading = f"{m.tool} --file {name} --remove none --read meta.version"
+    saved = (m.folder / name).stat().st_mtime_ns
     m.check_answers([Call("Kovalt", loading)], expected=b"1")
+    if (m.folder / name).stat().st_mtime_ns != saved:
+        raise SystemExit("a file that is only loaded was saved")
     bare = Call("bare parse", f"{m.bare} load {name}", time_bound=0.9, reference=True)
     record.compare(LOAD, work, [Call("Kovalt", loading), bare], size=m.size(name))
 
@@ -92,7 +95,8 @@ def edit(m, record, peers, name, work, megabytes):
     del first, answer
     plain = Call("bare parse and write", f"{m.bare} save saved.json saved.json", prepare=fresh("saved.json"),
                  time_bound=0.8, reference=True)
-    m.shell(f"cp {name} saved.json; {m.bare} save edited.json saved.json; cmp edited.json saved.json")
+    m.shell(f"cp {name} edited.json; {m.tool} --file edited.json --addNumber meta.version 1; "
+            f"{m.bare} save {name} saved.json; cmp edited.json saved.json")
     record.compare(EDIT, work, [calls[0], plain] + calls[1:], size=m.size(name))
 
 

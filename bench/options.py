@@ -88,7 +88,7 @@ def one_selection(m, record):
         if m.shell([m.tool, "-f", name] + selection) != f"{size - 1}\n".encode():
             raise SystemExit("a selection gives a different answer")
         whole[kind] = m.instructions([m.tool, "-f", name] + selection)
-        # A removal that finds nothing loads all of the document, whatever is read.
+        # A removal of a member of the root that is not there loads all of the document, whatever is read.
         load = [m.tool, "-f", name, "-rm", "none"]
         alone[kind] = m.instructions(load + selection) - m.instructions(load + ["-r", "none"])
     work = f"the last of {size:,} objects"

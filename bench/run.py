@@ -13,7 +13,9 @@ import os
 import platform
 import re
 import shutil
+import signal
 import subprocess
+import sys
 import tempfile
 import time
 from pathlib import Path
@@ -78,6 +80,8 @@ def main():
     results = build / "results" if arguments.quick or arguments.only else arguments.results
     results.mkdir(parents=True, exist_ok=True)
 
+    # Ended from outside, it still removes its files.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended"))
     start, load = time.monotonic(), os.getloadavg()[0]
     peers = Peers(arguments.jq, arguments.jj)
     folder = Path(tempfile.mkdtemp(prefix="kovalt-bench-"))
