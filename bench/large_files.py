@@ -96,13 +96,15 @@ def edit(m, record, peers, name, work, megabytes):
     plain = Call("bare parse and write", f"{m.bare} save saved.json saved.json", prepare=fresh("saved.json"),
                  time_bound=0.8, reference=True)
     m.shell(f"cp {name} edited.json; {m.tool} --file edited.json --addNumber meta.version 1; "
-            f"{m.bare} save {name} saved.json; cmp edited.json saved.json")
+            f"{m.bare} save {name} saved.json")
+    same_documents(m, "edited.json", "saved.json")
     record.compare(EDIT, work, [calls[0], plain] + calls[1:], size=m.size(name))
 
 
 def display(m, record, peers, name, kind, work, megabytes):
     shown, plain = f"{m.tool} --file {name}", f"{m.bare} display {name}"
-    m.shell(f"{shown} > edited.json; {plain} > saved.json; cmp edited.json saved.json")
+    m.shell(f"{shown} > edited.json; {plain} > saved.json")
+    same_documents(m, "edited.json", "saved.json")
     calls = [Call("Kovalt", shown), Call("the plain way", plain, time_bound=0.6, reference=True)]
     if megabytes == SIZES[0]:
         jqs = peers.jq_calls(f"{{jq}} --indent 4 . {name}", rounds=3)
@@ -110,6 +112,13 @@ def display(m, record, peers, name, kind, work, megabytes):
         calls += jqs
     record.compare(DISPLAY, work, calls, size=m.size(name),
                    memory_at_most=int(2.6 * m.size(name)) if kind == "records" and not m.quick else None)
+
+
+def same_documents(m, *names):
+    """Ends the benchmark unless the files hold the same value: the library writes some numbers with more digits."""
+    texts = [(m.folder / name).read_bytes() for name in names]
+    if texts[0] != texts[1] and json.loads(texts[0]) != json.loads(texts[1]):
+        raise SystemExit(f"{names[0]} and {names[1]} are different documents")
 
 
 def complete(m, record, name, work):
