@@ -111,8 +111,9 @@ def reading_lines(data, figure, title, unit, scale):
         return None
     # In the order of the ends of the lines, from above.
     names = sorted(points, key=lambda name: -points[name][-1][1])
-    colours = iter(OTHERS)
-    series = [(name, TOOL if name == "Kovalt" else next(colours), points[name]) for name in names]
+    # By name, so that a program has the same colour in each chart.
+    colours = {"Kovalt": TOOL} | dict(zip(sorted(set(names) - {"Kovalt"}), OTHERS))
+    series = [(name, colours[name], points[name]) for name in names]
     blocks, plot = lines_of(series)
     sizes = ", ".join(f'"{number(x)}" {x}' for x, _ in points["Kovalt"])
     return settings(title, "ytics") + blocks + f"""
@@ -121,7 +122,7 @@ set xtics ({sizes})
 set format y "%g"
 set xlabel "megabytes of the file"
 set ylabel "{unit} (log scale)"
-set offsets graph 0.04, graph 0.04, graph 0.08, graph 0.04
+set offsets graph 0.04, graph 0.04, 0, 0
 set key outside right center reverse Left
 {plot}"""
 

@@ -27,19 +27,22 @@ def measure(m, record, peers):
     sizes = QUICK_SIZES if m.quick else SIZES
     for size in sizes:
         make_growth(m.folder, size)
+    flat_arrays(m, record, peers, sizes[0])
     beside_jq(m, record, peers, sizes[1])
     for title, arguments in WORK.items():
         record.grow(GROUP, title, sizes, lambda size, line=arguments: f"{m.tool} " + line.format(n=size), rounds=5)
 
 
-def beside_jq(m, record, peers, size):
-    # Not of more elements: jq 1.6 joins in quadratic time.
+def flat_arrays(m, record, peers, size):
+    # Not of more elements: jq joins in quadratic time.
     for kind in ("numbers", "strings"):
         calls = [Call("Kovalt", f"{m.tool} --file {kind}{size}.json --readArray list")]
         calls += peers.jq_calls(f"{{jq}} -r '.list|map(tostring)|join(\" \")' {kind}{size}.json", rounds=1)
         m.check_answers(calls)
         record.compare(PEER_GROUP, f"flat array of {size:,} {kind}", calls)
 
+
+def beside_jq(m, record, peers, size):
     calls = [Call("Kovalt", f"{m.tool} --addFile names_a{size}.json --addFile names_b{size}.json")]
     calls += peers.jq_calls(f"{{jq}} -s '.[0]*.[1]' names_a{size}.json names_b{size}.json", rounds=2)
     m.check_answers(calls, as_json)
