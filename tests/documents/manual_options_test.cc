@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -40,11 +39,10 @@ std::string lineInManual(const Option& option) {
 
 /// The lines of the page that head the description of an option.
 std::vector<std::string> optionLinesOfManual() {
-  const std::regex optionLine(R"(\*--\w+\*, .*)");
   std::ifstream source(KOVALT_MANUAL_SOURCE);
   std::vector<std::string> lines;
   for (std::string line; std::getline(source, line);) {
-    if (std::regex_match(line, optionLine)) {
+    if (line.rfind("*--", 0) == 0 && line.find("*, ") == line.find('*', 1)) {
       lines.push_back(line);
     }
   }

@@ -2,6 +2,8 @@
 
 #include "json/document.h"
 
+#include <gtest/gtest.h>
+
 #include "json_text.h"
 
 namespace kovalt::test {
