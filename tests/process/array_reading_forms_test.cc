@@ -1,6 +1,6 @@
-#include "tool_call.h"
-
 // Every form of every array read, on one array.
+
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {

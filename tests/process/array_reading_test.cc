@@ -1,6 +1,6 @@
-#include "tool_call.h"
-
 // The array reads: one flat line without brackets, by commas or spaces, with or without quotes.
+
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {

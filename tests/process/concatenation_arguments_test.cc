@@ -1,6 +1,6 @@
-#include "tool_call.h"
-
 // The arguments of the concatenations: the field list and the separators taken from it.
+
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {

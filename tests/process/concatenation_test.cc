@@ -1,6 +1,6 @@
-#include "tool_call.h"
-
 // Selected fields of an array of objects as one line of counted, sorted records.
+
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {

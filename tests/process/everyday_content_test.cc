@@ -1,3 +1,5 @@
+// Contents of files and texts of arguments as they occur in everyday use.
+
 #include "tool_call.h"
 
 namespace kovalt::test {

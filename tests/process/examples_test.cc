@@ -1,7 +1,7 @@
+// Calls on copies of the example files.
+
 #include "example_file.h"
 #include "tool_call.h"
-
-// Calls on copies of the example files.
 
 namespace kovalt::test {
 namespace {

@@ -1,3 +1,5 @@
+// Which texts are taken as JSON and which are refused, as docs/json-grammar.md lists them.
+
 #include <gtest/gtest.h>
 
 #include <cctype>

@@ -1,6 +1,6 @@
-#include "tool_call.h"
-
 // Several reads in one call: one object that gathers their texts.
+
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {

@@ -1,3 +1,5 @@
+// The usage text, and the calls that it shows.
+
 #include "tool_call.h"
 
 namespace kovalt::test {

@@ -1,3 +1,5 @@
+// The arguments that belong to a list of values or fields, and how a single one is cut at commas.
+
 #include "tool_call.h"
 
 namespace kovalt::test {

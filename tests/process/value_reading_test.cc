@@ -1,6 +1,6 @@
-#include "tool_call.h"
-
 // A single --read: the value as one bare line.
+
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {

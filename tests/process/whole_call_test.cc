@@ -1,9 +1,11 @@
-#include "tool_call.h"
+// Calls that use several kinds of option at once, and what fails in them without or with an end of the call.
 
-// Calls that use several kinds of option at once: the fixed order of the work and what ends a call early.
+#include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
+
+using namespace std::string_literals;
 
 constexpr auto kExtra = R"({"list":[{"id":1,"h":"k"}]})";
 
@@ -161,7 +163,105 @@ std::vector<ToolCall> rows() {
   };
 }
 
+std::vector<ToolCall> failures() {
+  return {
+      // A file that does not parse is an empty object, and is overwritten only by a change.
+      ToolCall("broken_file_and_an_edit")
+          .given("conf.json", R"({"a":1,)")
+          .call("--file conf.json --addString k v")
+          .reports("Could not parse json file conf.json\n")
+          .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
+      ToolCall("broken_file_alone")
+          .given("conf.json", R"({"a":1,)")
+          .call("--file conf.json")
+          .prints("{}\n")
+          .reports("Could not parse json file conf.json\n"),
+      ToolCall("broken_file_for_display")
+          .given("conf.json", R"({"a":1}})")
+          .call("--fileDisplay conf.json")
+          .prints("{}\n")
+          .reports("Could not parse json file conf.json\n"),
+      ToolCall("broken_file_and_a_read")
+          .given("conf.json", R"({"a":1} x)")
+          .call("--file conf.json -r a")
+          .reports("Could not parse json file conf.json\n--read error : Path \"a\" does not exist\n"),
+      ToolCall("broken_file_and_a_failed_removal")
+          .given("conf.json", R"({"a":1} x)")
+          .call("--file conf.json -rm a")
+          .prints("{}\n")
+          .reports("Could not parse json file conf.json\n"),
+      ToolCall("broken_array_leaves_an_object")
+          .given("conf.json", "[1,2")
+          .call("-fd conf.json -as k v")
+          .prints("{\n    \"k\": \"v\"\n}\n")
+          .reports("Could not parse json file conf.json\n")
+          .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
+      ToolCall("empty_file_and_an_edit")
+          .given("conf.json", "")
+          .call("-f conf.json -as k v")
+          .reports("Could not parse json file conf.json\n")
+          .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
+
+      // A failed save gives status 1 and stops nothing.
+      ToolCall("failed_save")
+          .call("--file no/such/conf.json -as k v")
+          .reports("Could not write document: no/such/conf.json\n")
+          .exits(1),
+      ToolCall("failed_save_after_the_display")
+          .call("--fileDisplay no/such/conf.json -as k v")
+          .prints("{\n    \"k\": \"v\"\n}\n")
+          .reports("Could not write document: no/such/conf.json\n")
+          .exits(1),
+      ToolCall("failed_save_before_a_failing_read")
+          .call("--file no/such/conf.json -as k v -r l")
+          .reports("Could not write document: no/such/conf.json\n--read error : Path \"l\" does not exist\n")
+          .exits(1),
+      ToolCall("failed_save_after_a_removal")
+          .call("--file no/such/conf.json -rm a.b")
+          .reports("Could not write document: no/such/conf.json\n")
+          .exits(1),
+      ToolCall("path_that_cannot_be_saved_is_no_failure_without_a_change")
+          .call("--file no/such/conf.json")
+          .prints("{}\n"),
+
+      // Nothing else gives a status of its own.
+      ToolCall("failed_removals_and_reads_are_a_success")
+          .call("-rm a -r b -r c")
+          .prints("{}\n")
+          .reports("--read error : Path \"b\" does not exist\n--read error : Path \"c\" does not exist\n"),
+
+      // A clash of types and a bad number end the call before anything is shown or saved.
+      ToolCall("clash_of_types")
+          .given("conf.json", R"({"a":"text"})")
+          .call("-fd conf.json -as a.b v -r a")
+          .reports("Incompatible types for key a\n")
+          .exits(1),
+      ToolCall("clash_of_types_before_a_later_edit")
+          .given("conf.json", R"({"a":"text"})")
+          .call("-f conf.json -as a.b v -af missing.json")
+          .reports("Incompatible types for key a\n")
+          .exits(1),
+      ToolCall("clash_of_types_behind_an_earlier_edit")
+          .given("conf.json", R"({"a":"text"})")
+          .call("-f conf.json -as k v -as a.b v")
+          .reports("Incompatible types for key a\n")
+          .exits(1),
+      ToolCall("bad_number").given("conf.json", R"({"a":1})").call("-fd conf.json -as k v -an a abc -r k").aborts(),
+      ToolCall("merged_file_that_holds_no_object")
+          .given("conf.json", R"({"a":1})")
+          .given("more.json", "[1]")
+          .call("-fd conf.json -as k v -af more.json -r k")
+          .aborts("IsObject()"),
+      ToolCall("bad_number_behind_a_message")
+          .given("conf.json", "{")
+          .call("-f conf.json -an a 2147483648")
+          .reports("Could not parse json file conf.json\n")
+          .aborts(),
+  };
+}
+
 const Table kWholeCall("WholeCall", rows);
+const Table kRunFailures("RunFailures", failures);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -1,3 +1,5 @@
+// Every option in its long and its short form, and options that take a fixed number of arguments.
+
 #include "tool_call.h"
 
 namespace kovalt::test {
