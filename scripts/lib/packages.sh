@@ -87,6 +87,7 @@ has_tool() {
       has_command man
       ;;
     dpkg-dev) has_command dpkg-deb ;;
+    gnuplot-nox) has_command gnuplot ;;
     # Parts of the compiler, and of no use without the command that looks for them.
     libclang-rt-* | locales | bash-completion) ;;
     *) has_command "$1" ;;
