@@ -93,12 +93,22 @@ void writeCompactText(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 
-BENCHMARK(resolveSelection)->Range(8, 1 << 15)->Complexity();
-BENCHMARK(mergeDistinctNames)->Range(8, 1 << 17)->Complexity();
-BENCHMARK(mergeSameNames)->Range(8, 1 << 17)->Complexity();
-BENCHMARK(countRecords)->Range(8, 1 << 17)->Complexity();
-BENCHMARK(flattenArrayText)->Range(8, 1 << 17)->Complexity();
-BENCHMARK(writeCompactText)->Range(8, 1 << 17)->Complexity();
+/// Measures a function at sizes from 8 to a largest one, and fits how its time grows with them.
+void measure(const char* name, void (*function)(benchmark::State&), int largest) {
+  benchmark::RegisterBenchmark(name, function)->Range(8, largest)->Complexity();
+}
 
 }  // namespace
 }  // namespace kovalt
+
+int main(int argumentCount, char* arguments[]) {
+  using namespace kovalt;
+  benchmark::Initialize(&argumentCount, arguments);
+  measure("resolveSelection", resolveSelection, 1 << 15);
+  measure("mergeDistinctNames", mergeDistinctNames, 1 << 17);
+  measure("mergeSameNames", mergeSameNames, 1 << 17);
+  measure("countRecords", countRecords, 1 << 17);
+  measure("flattenArrayText", flattenArrayText, 1 << 17);
+  measure("writeCompactText", writeCompactText, 1 << 17);
+  benchmark::RunSpecifiedBenchmarks();
+}

@@ -48,7 +48,7 @@ void addConcatenation(ToolContext& context, OptionArguments&& arguments) {
 }
 
 void addSpacedConcatenation(ToolContext& context, OptionArguments&& arguments) {
-  arguments.separators = " ";
+  arguments.separators = ' ';
   addConcatenation(context, std::move(arguments));
 }
 
