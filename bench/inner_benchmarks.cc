@@ -34,7 +34,8 @@ void resolveSelection(benchmark::State& state) {
   }
   const KeyPath path("id=" + std::to_string(state.range(0) - 1) + ".id");
   for (auto _ : state) {
-    benchmark::DoNotOptimize(resolveExisting(path, document));
+    Lookups lookups;
+    benchmark::DoNotOptimize(resolveExisting(path, document, lookups));
   }
   state.SetComplexityN(state.range(0));
 }

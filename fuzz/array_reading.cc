@@ -58,7 +58,8 @@ std::string slowFlatText(std::string text, Commas commas, Quotes quotes) {
 
 /// What a plain read of the place prints.
 std::string slowRead(const std::string& path, const Value& root) {
-  const Value* target = resolveForRead(KeyPath(path, "."), root);
+  Lookups lookups;
+  const Value* target = resolveForRead(KeyPath(path, "."), root, lookups);
   const std::string text = target == nullptr ? "" : valueToText(*target, false);
   return target != nullptr && target->IsString() ? text.substr(1, text.size() - 2) : text;
 }
@@ -97,16 +98,18 @@ void tryTextOperations(const std::string& text) {
 
 void tryArrayRead(const ReadAction& action, const Value& root, Commas commas, Quotes quotes) {
   std::string text;
-  const bool found = action.execute(root, text);
-  expect(found == (resolveForRead(action, root) != nullptr), "an array read finds what a walk finds");
+  Lookups lookups;
+  const bool found = action.execute(root, text, lookups);
+  expect(found == (resolveForRead(action, root, lookups) != nullptr), "an array read finds what a walk finds");
   expect(text == slowFlatText(slowRead(action.text(), root), commas, quotes), "an array reads as slowly");
 }
 
 void tryConcatenation(const std::string& path, const std::vector<std::string>& fields, const std::string& separators,
                       const Value& root) {
   std::string text;
-  const bool found = ReadObjectArrayConcatAction(path, fields, separators).execute(root, text);
-  const Value* target = resolveForRead(KeyPath(path, "."), root);
+  Lookups lookups;
+  const bool found = ReadObjectArrayConcatAction(path, fields, separators).execute(root, text, lookups);
+  const Value* target = resolveForRead(KeyPath(path, "."), root, lookups);
   expect(found == (target != nullptr && target->IsArray()), "a concatenation finds an array where there is one");
   expect(text == (found ? slowConcatenation(*target, fields, separators) : ""), "an array is concatenated as slowly");
 }
@@ -140,7 +143,8 @@ void tryInput(std::string input) {
   tryArrayRead(ReadArrayCommaNoQuoteAction(path), document, Commas::stay, Quotes::go);
   tryArrayRead(ReadArraySpaceAction(path), document, Commas::becomeSpaces, Quotes::stay);
   tryArrayRead(ReadArraySpaceNoQuoteAction(path), document, Commas::becomeSpaces, Quotes::go);
-  lengthen(resolveExisting(KeyPath(path, "."), document), count, modulus, document.GetAllocator());
+  Lookups lookups;
+  lengthen(resolveExisting(KeyPath(path, "."), document, lookups), count, modulus, document.GetAllocator());
   std::vector<std::string> fields;
   while (!fieldList.empty()) {
     fields.push_back(takeUpTo(" ", fieldList));

@@ -97,15 +97,18 @@ const Value* slowWalk(const std::vector<std::string>& steps, const Value& root) 
 
 void tryWalks(const KeyPath& path, Document& document) {
   const Value* expected = slowWalk(path.steps(), document);
-  expect(resolveForRead(path, document) == expected, "a walk for a read comes to the place of the slow walk");
-  expect(resolveExisting(path, document) == expected, "a walk for an edit comes to the place of the slow walk");
+  Lookups lookups;
+  expect(resolveForRead(path, document, lookups) == expected, "a walk for a read comes to the place of the slow walk");
+  expect(resolveExisting(path, document, lookups) == expected,
+         "a walk for an edit comes to the place of the slow walk");
 }
 
 void tryChain(const KeyPath& path) {
   Document document;
   Value chain = wrapInPath(path, Value("leaf"), document.GetAllocator());
   if (path.text().find('=') == std::string::npos) {
-    const Value* leaf = resolveForRead(path, chain);
+    Lookups lookups;
+    const Value* leaf = resolveForRead(path, chain, lookups);
     expect(leaf != nullptr && *leaf == Value("leaf"), "a chain is read back along its path");
   }
   const Value* current = &chain;

@@ -42,7 +42,7 @@ void widen(Value& value, std::size_t count, std::size_t stride, Allocator& alloc
 
 void tryMerge(Document& target, Document& source) {
   PlainValue expected = plainValue(target);
-  const std::optional<End> expectedEnd = mergePlain(expected, plainValue(source));
+  const std::optional<End> expectedEnd = mergePlain(expected, plainValue(source)).end;
   const std::optional<End> end = endOf([&] { mergeValue(target, source, target.GetAllocator()); });
   expect(end == expectedEnd, "a merge ends the process only where it must");
   expect(end || plainValue(target) == expected, "a merge leaves the members, counts and order of the plain merge");
@@ -54,7 +54,8 @@ bool tryRemoval(Document& document, const std::string& keyPath, EmptyParents emp
   PlainValue expected = plainValue(document);
   const PlainRemoval removal = removePlain(expected, action.steps(), emptyParents == EmptyParents::clear);
   bool succeeded = false;
-  const std::optional<End> end = endOf([&] { succeeded = action.execute(document); });
+  MemberFinder members;
+  const std::optional<End> end = endOf([&] { succeeded = action.execute(document, members); });
   expect(end == removal.end, "a removal ends the process only where it must");
   expect(end || succeeded == removal.succeeded, "a removal succeeds like the plain one");
   expect(end || plainValue(document) == expected, "a removal leaves the members and order of the plain one");

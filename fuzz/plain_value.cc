@@ -49,28 +49,28 @@ PlainValue* plainMember(PlainValue& object, const std::string& name) {
   return nullptr;
 }
 
-std::optional<End> mergePlain(PlainValue& target, const PlainValue& source) {
+PlainMerge mergePlain(PlainValue& target, const PlainValue& source) {
   if (source.type != rapidjson::kObjectType) {
-    return End::noObject;
+    return {End::noObject, {}};
   }
   for (const auto& [name, value] : source.members) {
     if (target.type != rapidjson::kObjectType) {
-      return End::noObject;
+      return {End::noObject, {}};
     }
     PlainValue* existing = plainMember(target, name);
     if (existing == nullptr) {
       target.members.emplace_back(name, value);
     } else if (existing->type != value.type) {
-      return End::typeClash;
+      return {End::typeClash, name};
     } else if (value.type == rapidjson::kArrayType) {
       existing->elements.insert(existing->elements.end(), value.elements.begin(), value.elements.end());
     } else if (value.type != rapidjson::kObjectType) {
       *existing = value;
-    } else if (const std::optional<End> end = mergePlain(*existing, value)) {
-      return end;
+    } else if (PlainMerge inner = mergePlain(*existing, value); inner.end) {
+      return inner;
     }
   }
-  return std::nullopt;
+  return {};
 }
 
 PlainRemoval removePlain(PlainValue& root, const std::vector<std::string>& steps, bool clearEmptyParents) {

@@ -27,8 +27,14 @@ PlainValue plainValue(const Value& value);
 /// The value of the first member of `object` of that name; nullptr where there is none.
 PlainValue* plainMember(PlainValue& object, const std::string& name);
 
-/// Merges `source` into `target`. Returns the end that the merge comes to, if it does not come through.
-std::optional<End> mergePlain(PlainValue& target, const PlainValue& source);
+/// How a merge ended the process, if it did not come through, and the name at which types clashed.
+struct PlainMerge {
+  std::optional<End> end;
+  std::string clash;
+};
+
+/// Merges `source` into `target`.
+PlainMerge mergePlain(PlainValue& target, const PlainValue& source);
 
 /// What became of a removal: whether it was a success, or how it ended the process.
 struct PlainRemoval {

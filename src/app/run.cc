@@ -18,19 +18,21 @@ void loadOrStartEmpty(const std::string& filePath, Document& document) {
 }
 
 void applyEdits(const ToolContext& context, Document& document) {
+  Lookups lookups;
   for (const auto& action : context.editActions) {
-    if (!applyAtPath(*action, document)) {
+    if (!applyAtPath(*action, document, lookups)) {
       Value chain = buildPathChain(*action, document.GetAllocator());
-      mergeValue(document, chain, document.GetAllocator());
+      mergeValue(document, chain, document.GetAllocator(), lookups.members);
     }
   }
 }
 
 /// Whether there were removals and all of them succeeded: only then have they modified the document.
 bool applyRemovals(const ToolContext& context, Document& document) {
+  MemberFinder members;
   bool allRemovalsOk = !context.removeActions.empty();
   for (const auto& action : context.removeActions) {
-    allRemovalsOk &= action->execute(document);
+    allRemovalsOk &= action->execute(document, members);
   }
   return allRemovalsOk;
 }

@@ -1,6 +1,7 @@
 #include "json/find_object_by_ref.h"
 
-#include <string>
+#include <charconv>
+#include <limits>
 
 #include "json/find_member.h"
 #include "json/ref_value.h"
@@ -9,47 +10,66 @@
 namespace kovalt {
 namespace {
 
-enum class Match {
-  yes,
-  no,
-  noAmongBadItems,  ///< An array without a match that holds items of a type that never matches.
-  impossible,       ///< Nothing of this type can be selected by.
+using rapidjson::SizeType;
+
+// Up to this size an array is scanned, and so is a greater one for its first questions: its index costs as much.
+constexpr SizeType kScannedSize = 32;
+constexpr unsigned kScans = 8;
+
+/// What an element holds besides scalars to select it by.
+enum class Rest {
+  nothing,
+  badItems,    ///< Items of a type that never matches, in an array.
+  impossible,  ///< Nothing of this type can be selected by.
 };
 
-bool scalarMatches(const Value& scalar, std::string_view refValue) {
-  // A string needs no copy.
-  return scalar.IsString() ? scalar.GetString() == refValue : refValueOf(scalar) == refValue;
-}
-
-Match matchAnyItem(const Value& array, std::string_view refValue) {
-  bool badItemSeen = false;
-  for (const Value& item : array.GetArray()) {
-    if (!itemCanSelect(item)) {
-      badItemSeen = true;
-    } else if (scalarMatches(item, refValue)) {
-      return Match::yes;
-    }
-  }
-  return badItemSeen ? Match::noAmongBadItems : Match::no;
-}
-
-Match matchMember(const Value& member, std::string_view refValue) {
-  if (!canSelect(member)) {
-    return Match::impossible;
-  }
-  if (member.IsArray()) {
-    return matchAnyItem(member, refValue);
-  }
-  return scalarMatches(member, refValue) ? Match::yes : Match::no;
-}
-
-Match matchElement(const Value& element, std::string_view refKey, std::string_view refValue) {
+/// Calls `visit` with each boolean, number or string that selects `element` by `refKey`.
+template <typename Visit>
+Rest visitScalars(const Value& element, std::string_view refKey, Visit visit) {
   if (!element.IsObject()) {
-    return Match::impossible;
+    return Rest::impossible;
   }
   const Value* member = findMember(element, refKey);
-  return member == nullptr ? Match::no : matchMember(*member, refValue);
+  if (member == nullptr) {
+    return Rest::nothing;
+  }
+  if (!canSelect(*member)) {
+    return Rest::impossible;
+  }
+  if (!member->IsArray()) {
+    visit(*member);
+    return Rest::nothing;
+  }
+  Rest rest = Rest::nothing;
+  for (const Value& item : member->GetArray()) {
+    if (itemCanSelect(item)) {
+      visit(item);
+    } else {
+      rest = Rest::badItems;
+    }
+  }
+  return rest;
 }
+
+/// The text to select by, with the number that it stands for: the text of a number reads back as just this number, so
+/// only a number that equals it has to be written.
+class Wanted {
+ public:
+  explicit Wanted(std::string_view text) : text_(text) {
+    std::from_chars(text.data(), text.data() + text.size(), number_);
+  }
+
+  [[nodiscard]] bool matches(const Value& scalar) const {
+    if (scalar.IsNumber()) {
+      return scalar.GetDouble() == number_ && refValueOf(scalar) == text_;
+    }
+    return text_ == (scalar.IsString() ? scalar.GetString() : scalar.IsTrue() ? "true" : "false");
+  }
+
+ private:
+  std::string_view text_;
+  double number_ = std::numeric_limits<double>::quiet_NaN();
+};
 
 void reportNotFound(std::string_view refKey, std::string_view refValue, bool explainArgument) {
   std::string message = "Kovalt path not found with refKey=refValue \"";
@@ -68,19 +88,62 @@ const Value* findObjectByRef(const Value* array, std::string_view refKey, std::s
   // A value that is no array gets no explanation, although the explanation speaks of just that. Kept: scripts know it.
   bool explainArgument = false;
   if (array != nullptr && array->IsArray()) {
+    const Wanted wanted(refValue);
     for (const Value& element : array->GetArray()) {
-      const Match match = matchElement(element, refKey, refValue);
-      if (match == Match::yes) {
+      bool matched = false;
+      const Rest rest =
+          visitScalars(element, refKey, [&](const Value& scalar) { matched = matched || wanted.matches(scalar); });
+      if (matched) {
         return &element;
       }
-      explainArgument |= match != Match::no;
-      if (match == Match::impossible) {
+      explainArgument |= rest != Rest::nothing;
+      if (rest == Rest::impossible) {
         break;
       }
     }
   }
   reportNotFound(refKey, refValue, explainArgument);
   return nullptr;
+}
+
+const Value* ObjectFinder::find(const Value* array, std::string_view refKey, std::string_view refValue) {
+  const Index* index =
+      array == nullptr || !array->IsArray() || array->Size() <= kScannedSize ? nullptr : indexFor(*array, refKey);
+  if (index == nullptr) {
+    return findObjectByRef(array, refKey, refValue);
+  }
+  const auto first = index->firstWith.find(std::string(refValue));
+  if (first != index->firstWith.end()) {
+    return array->Begin() + first->second;
+  }
+  reportNotFound(refKey, refValue, index->stopped || index->badItemSeen);
+  return nullptr;
+}
+
+const ObjectFinder::Index* ObjectFinder::indexFor(const Value& array, std::string_view refKey) {
+  Index& index = indexes_[{array.Begin(), std::string(refKey)}];
+  if (index.scans < kScans) {
+    ++index.scans;
+    return nullptr;
+  }
+  while (!index.stopped && index.size < array.Size()) {
+    const Rest rest = visitScalars(array[index.size], refKey, [&](const Value& scalar) {
+      index.firstWith.try_emplace(refValueOf(scalar), index.size);
+    });
+    index.badItemSeen |= rest == Rest::badItems;
+    index.stopped = rest == Rest::impossible;
+    index.size += index.stopped ? 0 : 1;
+  }
+  return &index;
+}
+
+void ObjectFinder::forget(const Value& array, const std::string& name) { indexes_.erase({array.Begin(), name}); }
+
+void ObjectFinder::forget(const Value& array) {
+  auto index = indexes_.lower_bound({array.Begin(), std::string()});
+  while (index != indexes_.end() && index->first.first == array.Begin()) {
+    index = indexes_.erase(index);
+  }
 }
 
 }  // namespace kovalt

@@ -1,29 +1,33 @@
 #include "json/resolve_key_path.h"
 
-#include "json/find_member.h"
-#include "json/find_object_by_ref.h"
 #include "json/standard_streams.h"
 
 namespace kovalt {
 namespace {
 
-enum class MissingMember { silent, reported };
+enum class Purpose { edit, read };
 
-const Value* walk(const KeyPath& path, const Value& root, MissingMember missingMember) {
+const Value* walk(const KeyPath& path, const Value& root, Lookups& lookups, Purpose purpose) {
   const Value* current = &root;
-  for (const std::string& step : path.steps()) {
-    const std::size_t equals = step.find('=');
-    if (equals != std::string::npos) {
-      const std::string_view selection = step;
-      current = findObjectByRef(current, selection.substr(0, equals), selection.substr(equals + 1));
-    } else {
-      current = findMember(*current, step);
-      if (current == nullptr && missingMember == MissingMember::reported) {
+  for (auto step = path.steps().begin(); step != path.steps().end() && current != nullptr; ++step) {
+    const std::size_t equals = step->find('=');
+    if (equals == std::string::npos) {
+      current = lookups.members.find(*current, *step);
+      if (current == nullptr && purpose == Purpose::read) {
         reportLine("--read error : Path \"" + path.text() + "\" does not exist");
       }
+      continue;
     }
-    if (current == nullptr) {
-      return nullptr;
+    const Value& array = *current;
+    const std::string_view selection = *step;
+    current = lookups.objects.find(&array, selection.substr(0, equals), selection.substr(equals + 1));
+    if (current != nullptr && purpose == Purpose::edit) {
+      // The caller is about to change the element, or something inside the member that the next step names.
+      if (step + 1 == path.steps().end()) {
+        lookups.objects.forget(array);
+      } else {
+        lookups.objects.forget(array, step[1]);
+      }
     }
   }
   return current;
@@ -31,12 +35,12 @@ const Value* walk(const KeyPath& path, const Value& root, MissingMember missingM
 
 }  // namespace
 
-Value* resolveExisting(const KeyPath& path, Value& root) {
-  return const_cast<Value*>(walk(path, root, MissingMember::silent));
+Value* resolveExisting(const KeyPath& path, Value& root, Lookups& lookups) {
+  return const_cast<Value*>(walk(path, root, lookups, Purpose::edit));
 }
 
-const Value* resolveForRead(const KeyPath& path, const Value& root) {
-  return walk(path, root, MissingMember::reported);
+const Value* resolveForRead(const KeyPath& path, const Value& root, Lookups& lookups) {
+  return walk(path, root, lookups, Purpose::read);
 }
 
 }  // namespace kovalt

@@ -133,7 +133,8 @@ TEST_P(KeyPathCandidates, AreFoundByTheWalk) {
     if (candidate.back() == '.') {
       candidate.pop_back();
     }
-    EXPECT_NE(resolveForRead(KeyPath(candidate), document), nullptr) << candidate;
+    Lookups lookups;
+    EXPECT_NE(resolveForRead(KeyPath(candidate), document, lookups), nullptr) << candidate;
   }
 }
 

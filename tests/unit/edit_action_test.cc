@@ -90,7 +90,8 @@ TEST_P(Addition, LeavesItsValueInTheDocumentWhenItIsGone) {
     const std::vector<AdditionRow> rows = additionRows();
     for (const AdditionRow& row : rows) {
       if (row.name == GetParam().name) {
-        EXPECT_TRUE(applyAtPath(*row.action, document));
+        Lookups lookups;
+        EXPECT_TRUE(applyAtPath(*row.action, document, lookups));
       }
     }
   }
@@ -166,7 +167,8 @@ TEST(ApplyAtPath, AppliesOnceToTheValueInTheDocument) {
     SCOPED_TRACE(result);
     Document document = parsed(R"({"a":{"b":1}})");
     const ObservedAction action("a.b", result);
-    EXPECT_EQ(applyAtPath(action, document), result);
+    Lookups lookups;
+    EXPECT_EQ(applyAtPath(action, document, lookups), result);
     EXPECT_EQ(action.calls, 1);
     EXPECT_EQ(action.lastTarget, &document["a"]["b"]);
     EXPECT_EQ(action.lastAllocator, &document.GetAllocator());
@@ -176,13 +178,15 @@ TEST(ApplyAtPath, AppliesOnceToTheValueInTheDocument) {
 TEST(ApplyAtPath, AppliesToTheRootWithoutSteps) {
   Document document = parsed(R"({"a":1})");
   const ObservedAction action("", true);
-  EXPECT_TRUE(applyAtPath(action, document));
+  Lookups lookups;
+  EXPECT_TRUE(applyAtPath(action, document, lookups));
   EXPECT_EQ(action.lastTarget, &document);
 }
 
 TEST(ApplyAtPath, AppliesInsideASelectedElement) {
   Document document = parsed(R"({"l":[{"id":1,"v":0},{"id":2,"v":0}]})");
-  EXPECT_TRUE(applyAtPath(ObservedAction("l.id=2.v", true), document));
+  Lookups lookups;
+  EXPECT_TRUE(applyAtPath(ObservedAction("l.id=2.v", true), document, lookups));
   EXPECT_EQ(textOf(document), R"({"l":[{"id":1,"v":0},{"id":2,"v":"applied"}]})");
 }
 
@@ -191,7 +195,8 @@ TEST(ApplyAtPath, DoesNotCallTheActionWithoutATarget) {
     SCOPED_TRACE(path);
     Document document = parsed(R"({"a":{"b":1},"l":[{"id":1}]})");
     const ObservedAction action(path, true);
-    capture([&] { EXPECT_FALSE(applyAtPath(action, document)); });
+    Lookups lookups;
+    capture([&] { EXPECT_FALSE(applyAtPath(action, document, lookups)); });
     EXPECT_EQ(action.calls, 0);
     EXPECT_EQ(textOf(document), R"({"a":{"b":1},"l":[{"id":1}]})");
   }

@@ -164,14 +164,16 @@ class OptionForm : public testing::TestWithParam<FormRow> {
 
   std::string effectOfTheRemoval() {
     Document document = parsed(R"({"k":{"x":{"y":1}}})");
-    EXPECT_TRUE(context.removeActions.front()->execute(document));
+    MemberFinder members;
+    EXPECT_TRUE(context.removeActions.front()->execute(document, members));
     return textOf(document);
   }
 
   std::string effectOfTheRead() {
     const Document document = parsed(kReadDocument);
     std::string text;
-    EXPECT_TRUE(context.readActions.front()->execute(document, text));
+    Lookups lookups;
+    EXPECT_TRUE(context.readActions.front()->execute(document, text, lookups));
     return text;
   }
 

@@ -72,7 +72,8 @@ TEST(PrintReadResults, GathersSeveralReadsAndLeavesTheDocumentAlone) {
 TEST(ReadAction, LeavesTheTextEmptyWhereThereIsNothing) {
   const Document document = parsed(R"({"a":1})");
   std::string text;
-  capture([&] { EXPECT_FALSE(ReadAction("b").execute(document, text)); });
+  Lookups lookups;
+  capture([&] { EXPECT_FALSE(ReadAction("b").execute(document, text, lookups)); });
   EXPECT_EQ(text, "");
 }
 
@@ -81,7 +82,8 @@ TEST(ReadAction, CanBeRunAgain) {
   const ReadAction action("a");
   for (int i = 0; i < 2; ++i) {
     std::string text;
-    EXPECT_TRUE(action.execute(document, text));
+    Lookups lookups;
+    EXPECT_TRUE(action.execute(document, text, lookups));
     EXPECT_EQ(text, "x");
   }
 }
@@ -92,8 +94,10 @@ TEST(ReadObjectArrayConcatAction, TellsAnEmptyArrayFromWhatIsNoArray) {
     SCOPED_TRACE(path);
     std::string text;
     bool executed = !found;
-    const Printed printed = capture(
-        [&, path = path] { executed = ReadObjectArrayConcatAction(path, {"id"}, " ").execute(document, text); });
+    Lookups lookups;
+    const Printed printed = capture([&, path = path] {
+      executed = ReadObjectArrayConcatAction(path, {"id"}, " ").execute(document, text, lookups);
+    });
     EXPECT_EQ(executed, found);
     EXPECT_EQ(text, "");
     EXPECT_EQ(printed.output + printed.errors, "");

@@ -102,7 +102,8 @@ class Removal : public testing::TestWithParam<RemovalRow> {
     Document document = parsed(GetParam().json);
     const RemoveAction action(GetParam().path, emptyParents);
     bool succeeded = false;
-    const Printed printed = capture([&] { succeeded = action.execute(document); });
+    MemberFinder members;
+    const Printed printed = capture([&] { succeeded = action.execute(document, members); });
     EXPECT_EQ(succeeded, GetParam().succeeds);
     EXPECT_EQ(textOf(document), after);
     EXPECT_EQ(printed.output + printed.errors, "");
@@ -141,14 +142,16 @@ class SkippedStepDeathTest : public testing::TestWithParam<SkippedRow> {};
 
 TEST_P(SkippedStepDeathTest, IsNoErrorWithoutClearing) {
   Document document = parsed(GetParam().json);
-  EXPECT_TRUE(RemoveAction(GetParam().path, EmptyParents::keep).execute(document));
+  MemberFinder members;
+  EXPECT_TRUE(RemoveAction(GetParam().path, EmptyParents::keep).execute(document, members));
   EXPECT_EQ(textOf(document), GetParam().after);
 }
 
 TEST_P(SkippedStepDeathTest, EndsTheProcessWhenClearing) {
   Document document = parsed(GetParam().json);
   const RemoveAction action(GetParam().path, EmptyParents::clear);
-  EXPECT_DEATH(action.execute(document), "");
+  MemberFinder members;
+  EXPECT_DEATH(action.execute(document, members), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(RemoveAction, SkippedStepDeathTest, testing::ValuesIn(skippedRows()), rowName<SkippedRow>);
@@ -159,7 +162,8 @@ TEST(RemoveActionDeathTest, NeedsAnObjectAsRootForASingleStep) {
       SCOPED_TRACE(json);
       Document document = parsed(json);
       const RemoveAction action("a", emptyParents);
-      EXPECT_DEATH(action.execute(document), "IsObject\\(\\)");
+      MemberFinder members;
+      EXPECT_DEATH(action.execute(document, members), "IsObject\\(\\)");
     }
   }
 }
@@ -167,12 +171,13 @@ TEST(RemoveActionDeathTest, NeedsAnObjectAsRootForASingleStep) {
 TEST(RemoveAction, ChangesNothingWhenItIsRepeated) {
   Document document = parsed(R"({"a":{"b":1,"c":2},"d":3})");
   const RemoveAction several("a.b", EmptyParents::clear);
-  EXPECT_TRUE(several.execute(document));
-  EXPECT_TRUE(several.execute(document));
+  MemberFinder members;
+  EXPECT_TRUE(several.execute(document, members));
+  EXPECT_TRUE(several.execute(document, members));
   EXPECT_EQ(textOf(document), R"({"a":{"c":2},"d":3})");
   const RemoveAction single("d", EmptyParents::clear);
-  EXPECT_TRUE(single.execute(document));
-  EXPECT_FALSE(single.execute(document));
+  EXPECT_TRUE(single.execute(document, members));
+  EXPECT_FALSE(single.execute(document, members));
   EXPECT_EQ(textOf(document), R"({"a":{"c":2}})");
 }
 

@@ -92,8 +92,9 @@ TEST_P(Walk, EndsAtTheSameValueQuietlyAndReporting) {
   const KeyPath path(row.path, ".");
   const Value* found = nullptr;
   const Value* read = nullptr;
-  const Printed quiet = capture([&] { found = resolveExisting(path, document); });
-  const Printed reporting = capture([&] { read = resolveForRead(path, document); });
+  Lookups lookups;
+  const Printed quiet = capture([&] { found = resolveExisting(path, document, lookups); });
+  const Printed reporting = capture([&] { read = resolveForRead(path, document, lookups); });
 
   EXPECT_EQ(found, read);
   ASSERT_EQ(found != nullptr, row.found.has_value());
@@ -112,9 +113,10 @@ INSTANTIATE_TEST_SUITE_P(ResolveKeyPath, Walk, testing::ValuesIn(walkRows()), ro
 
 TEST(ResolveKeyPath, GivesTheValueInsideTheDocument) {
   Document document = parsed(R"({"a":{"b":1}})");
-  EXPECT_EQ(resolveExisting(KeyPath("", "."), document), &document);
-  EXPECT_EQ(resolveForRead(KeyPath("", "."), document), &document);
-  EXPECT_EQ(resolveExisting(KeyPath("a.b", "."), document), &document["a"]["b"]);
+  Lookups lookups;
+  EXPECT_EQ(resolveExisting(KeyPath("", "."), document, lookups), &document);
+  EXPECT_EQ(resolveForRead(KeyPath("", "."), document, lookups), &document);
+  EXPECT_EQ(resolveExisting(KeyPath("a.b", "."), document, lookups), &document["a"]["b"]);
 }
 
 }  // namespace

@@ -45,7 +45,8 @@ TEST_P(WrappedLeaf, IsFoundAlongItsOwnPath) {
   const KeyPath path(GetParam().path, ".");
   Document document;
   Value wrapped = wrapInPath(path, parsedInto(GetParam().leaf, document.GetAllocator()), document.GetAllocator());
-  const Value* leaf = resolveExisting(path, wrapped);
+  Lookups lookups;
+  const Value* leaf = resolveExisting(path, wrapped, lookups);
   ASSERT_NE(leaf, nullptr);
   EXPECT_EQ(textOf(*leaf), GetParam().leaf);
 }
@@ -73,7 +74,8 @@ TEST(WrapInPath, KeepsNulBytesOfTheSteps) {
   const KeyPath path(std::string_view("a\0b.c", 5), ".");
   Value wrapped = wrapInPath(path, Value(1), document.GetAllocator());
   EXPECT_EQ(textOf(wrapped), R"({"a\u0000b":{"c":1}})");
-  EXPECT_NE(resolveExisting(path, wrapped), nullptr);
+  Lookups lookups;
+  EXPECT_NE(resolveExisting(path, wrapped, lookups), nullptr);
 }
 
 TEST(WrapInPath, NestsVeryDeep) {
@@ -85,7 +87,8 @@ TEST(WrapInPath, NestsVeryDeep) {
   const KeyPath path(text, ".");
   Document document;
   Value wrapped = wrapInPath(path, Value("leaf"), document.GetAllocator());
-  const Value* leaf = resolveExisting(path, wrapped);
+  Lookups lookups;
+  const Value* leaf = resolveExisting(path, wrapped, lookups);
   ASSERT_NE(leaf, nullptr);
   EXPECT_STREQ(leaf->GetString(), "leaf");
 }

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "json/resolve_key_path.h"
 #include "json/wrap_in_path.h"
 
 namespace kovalt {
@@ -13,8 +12,8 @@ EditAction::~EditAction() = default;
 
 bool EditAction::apply(Value* /*target*/, Allocator& /*allocator*/) const { return true; }
 
-bool applyAtPath(const EditAction& action, Document& document) {
-  Value* target = resolveExisting(action.keyPath(), document);
+bool applyAtPath(const EditAction& action, Document& document, Lookups& lookups) {
+  Value* target = resolveExisting(action.keyPath(), document, lookups);
   return target != nullptr && action.apply(target, document.GetAllocator());
 }
 

@@ -6,6 +6,7 @@
 
 #include "json/document.h"
 #include "json/key_path.h"
+#include "json/resolve_key_path.h"
 
 namespace kovalt {
 
@@ -31,7 +32,7 @@ class EditAction {
 
 /// Applies `action` to the value of `document` that its key path names. Returns what `apply` returned, or false without
 /// calling it where the document has no such value.
-bool applyAtPath(const EditAction& action, Document& document);
+bool applyAtPath(const EditAction& action, Document& document, Lookups& lookups);
 
 /// The value of `action`, made by one call of `apply` on a fresh null, inside one object for each step of its key path:
 /// merged into a document, it adds all that was missing.

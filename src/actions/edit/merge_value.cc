@@ -21,19 +21,9 @@ void appendElements(Value& target, Value& source, Allocator& allocator) {
   }
 }
 
-/// Moves one member into `target`, but for the members of two objects that meet: then the object in `target` is
-/// returned, otherwise nullptr. Kept out of the recursive function, whose stack frame decides how deep a merge can go.
-[[gnu::noinline]] Value* mergeMember(Value& target, Value::Member& member, FirstMatchIndex& names,
-                                     Allocator& allocator) {
-  const auto members = target.MemberBegin();
-  const std::size_t position = names.find(textOf(member.name), target.MemberCount(), [&](std::size_t i) {
-    return textOf(members[static_cast<std::ptrdiff_t>(i)].name);
-  });
-  if (position == target.MemberCount()) {
-    target.AddMember(member.name, member.value, allocator);
-    return nullptr;
-  }
-  Value& existing = members[static_cast<std::ptrdiff_t>(position)].value;
+/// Moves the value of `member` into `existing`, the one of the same name. But two objects that meet are left alone, and
+/// `existing` is returned; otherwise nullptr.
+Value* mergeMember(Value& existing, Value::Member& member, Allocator& allocator) {
   if (existing.GetType() != member.value.GetType()) {
     endForIncompatibleTypes(textOf(member.name));
   }
@@ -48,15 +38,49 @@ void appendElements(Value& target, Value& source, Allocator& allocator) {
   return nullptr;
 }
 
+/// As mergeMember for the first member of that name, if there is one; else appends the member. Kept out of the
+/// recursive function, whose stack frame decides how deep a merge can go.
+[[gnu::noinline]] Value* mergeOrAppendMember(Value& target, Value::Member& member, FirstMatchIndex& names,
+                                             Allocator& allocator) {
+  const auto members = target.MemberBegin();
+  const std::size_t position = names.find(textOf(member.name), target.MemberCount(), [&](std::size_t i) {
+    return textOf(members[static_cast<std::ptrdiff_t>(i)].name);
+  });
+  if (position == target.MemberCount()) {
+    target.AddMember(member.name, member.value, allocator);
+    return nullptr;
+  }
+  return mergeMember(members[static_cast<std::ptrdiff_t>(position)].value, member, allocator);
+}
+
 }  // namespace
 
 void mergeValue(Value& target, Value& source, Allocator& allocator) {
   FirstMatchIndex names;
   for (Value::Member& member : source.GetObject()) {
-    if (Value* existing = mergeMember(target, member, names, allocator)) {
+    if (Value* existing = mergeOrAppendMember(target, member, names, allocator)) {
       mergeValue(*existing, member.value, allocator);
     }
   }
+}
+
+void mergeValue(Value& target, Value& source, Allocator& allocator, MemberFinder& members) {
+  Value* into = &target;
+  Value* from = &source;
+  while (from->MemberCount() == 1) {
+    Value::Member& member = *from->MemberBegin();
+    Value* existing = members.find(*into, textOf(member.name));
+    if (existing == nullptr) {
+      members.append(*into, member.name, member.value, allocator);
+      return;
+    }
+    into = mergeMember(*existing, member, allocator);
+    if (into == nullptr) {
+      return;
+    }
+    from = &member.value;
+  }
+  mergeValue(*into, *from, allocator);
 }
 
 }  // namespace kovalt

@@ -3,6 +3,7 @@
 // The merge of one object into another, by which files are merged and missing keys are made.
 
 #include "json/document.h"
+#include "json/member_finder.h"
 
 namespace kovalt {
 
@@ -14,5 +15,9 @@ namespace kovalt {
 /// once with status 1. A `source` that is no object ends it through RapidJSON's assertion, and so does a `target`
 /// that is none when it meets a member.
 void mergeValue(Value& target, Value& source, Allocator& allocator);
+
+/// As above, for one of many merges into the document of `members`: objects of a single member, as a chain along a key
+/// path has them, are merged in a time that does not grow with `target`.
+void mergeValue(Value& target, Value& source, Allocator& allocator, MemberFinder& members);
 
 }  // namespace kovalt

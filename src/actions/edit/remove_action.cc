@@ -3,14 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "json/find_member.h"
 #include "json/process_end.h"
-#include "json/text_value.h"
 
 namespace kovalt {
 namespace {
-
-bool removeMember(Value& object, const std::string& name) { return object.RemoveMember(referToText(name)); }
 
 /// The way to the object that holds the member which the last step names.
 struct Walk {
@@ -21,10 +17,10 @@ struct Walk {
 };
 
 /// A step that names no object is no error: it is skipped, and the next one is looked up in the same object.
-Walk walkToParent(const std::vector<std::string>& steps, Value& root) {
+Walk walkToParent(const std::vector<std::string>& steps, Value& root, MemberFinder& members) {
   Walk walk = {{&root}, &root};
   for (auto step = steps.begin(); step + 1 != steps.end(); ++step) {
-    Value* member = findMember(*walk.parent, *step);
+    Value* member = members.find(*walk.parent, *step);
     if (member != nullptr && member->IsObject()) {
       walk.ancestors.push_back(member);
       walk.parent = member;
@@ -37,14 +33,15 @@ Walk walkToParent(const std::vector<std::string>& steps, Value& root) {
 
 /// Removes the ancestors that hold nothing, from the innermost outwards. Those that hold something stay, and so does
 /// the root.
-void removeEmptyAncestors(const std::vector<std::string>& steps, const std::vector<Value*>& ancestors) {
+void removeEmptyAncestors(const std::vector<std::string>& steps, const std::vector<Value*>& ancestors,
+                          MemberFinder& members) {
   for (std::size_t i = ancestors.size() - 1; i > 0; --i) {
     if (ancestors[i] == nullptr || ancestors[i - 1] == nullptr) {
       // Along a path with a skipped step it is not known what to clear: end before anything is printed or saved.
       endAbnormally();
     }
     if (ancestors[i]->ObjectEmpty()) {
-      removeMember(*ancestors[i - 1], steps[i - 1]);
+      members.remove(*ancestors[i - 1], steps[i - 1]);
     }
   }
 }
@@ -54,20 +51,17 @@ void removeEmptyAncestors(const std::vector<std::string>& steps, const std::vect
 RemoveAction::RemoveAction(std::string_view keyPath, EmptyParents emptyParents)
     : KeyPath(keyPath), emptyParents_(emptyParents) {}
 
-bool RemoveAction::execute(Document& document) const {
+bool RemoveAction::execute(Document& document, MemberFinder& members) const {
   if (steps().empty()) {
     return true;
   }
   if (steps().size() == 1) {
-    return removeMember(document, steps().front());
+    return members.remove(document, steps().front());
   }
-  const Walk walk = walkToParent(steps(), document);
+  const Walk walk = walkToParent(steps(), document, members);
   // Unlike a single missing step, a missing last one counts as success, so the file is rewritten.
-  if (findMember(*walk.parent, steps().back()) != nullptr) {
-    removeMember(*walk.parent, steps().back());
-    if (emptyParents_ == EmptyParents::clear) {
-      removeEmptyAncestors(steps(), walk.ancestors);
-    }
+  if (walk.parent->IsObject() && members.remove(*walk.parent, steps().back()) && emptyParents_ == EmptyParents::clear) {
+    removeEmptyAncestors(steps(), walk.ancestors, members);
   }
   return true;
 }

@@ -4,6 +4,7 @@
 
 #include "json/document.h"
 #include "json/key_path.h"
+#include "json/member_finder.h"
 
 namespace kovalt {
 
@@ -21,7 +22,9 @@ class RemoveAction : public KeyPath {
   /// Returns whether it succeeded: a path without steps and a path of several steps whose last is missing count as
   /// success, a path of a single missing step does not. Ends the process where a single step meets a root that is no
   /// object, and where objects are to be cleared along a path that skipped a step.
-  virtual bool execute(Document& document) const;
+  ///
+  /// `members` is the finder of all removals from `document`.
+  virtual bool execute(Document& document, MemberFinder& members) const;
 
  private:
   EmptyParents emptyParents_;

@@ -10,18 +10,20 @@ namespace kovalt {
 namespace {
 
 void printSingle(const ReadAction& action, const Document& document) {
+  Lookups lookups;
   std::string text;
-  if (action.execute(document, text)) {
+  if (action.execute(document, text, lookups)) {
     printLine(text);
   }
 }
 
 void printGathered(const std::vector<std::unique_ptr<ReadAction>>& actions, Document& document) {
   Allocator& allocator = document.GetAllocator();
+  Lookups lookups;
   Value results(rapidjson::kObjectType);
   for (const auto& action : actions) {
     std::string text;
-    if (action->execute(document, text)) {
+    if (action->execute(document, text, lookups)) {
       // A path that is read twice makes two members.
       results.AddMember(copyText(action->text(), allocator), copyText(text, allocator), allocator);
     }

@@ -1,12 +1,11 @@
 #include "actions/read/read_action.h"
 
-#include "json/resolve_key_path.h"
 #include "json/value_to_text.h"
 
 namespace kovalt {
 
-bool ReadAction::execute(const Value& value, std::string& text) const {
-  const Value* target = resolveForRead(*this, value);
+bool ReadAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
+  const Value* target = resolveForRead(*this, value, lookups);
   if (target == nullptr) {
     return false;
   }

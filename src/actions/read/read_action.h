@@ -7,6 +7,7 @@
 
 #include "json/document.h"
 #include "json/key_path.h"
+#include "json/resolve_key_path.h"
 
 namespace kovalt {
 
@@ -18,7 +19,9 @@ class ReadAction : public KeyPath {
   /// Puts the compact text of the value, walked from `value`, into `text`, which must be empty; a string goes without
   /// its outer quotes, but keeps its escapes. Returns false with `text` still empty where there is no such value, which
   /// has been reported on standard error.
-  virtual bool execute(const Value& value, std::string& text) const;
+  ///
+  /// `lookups` are those of all reads from the same document.
+  virtual bool execute(const Value& value, std::string& text, Lookups& lookups) const;
 };
 
 }  // namespace kovalt

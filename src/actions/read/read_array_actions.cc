@@ -4,26 +4,26 @@
 
 namespace kovalt {
 
-bool ReadArrayCommaAction::execute(const Value& value, std::string& text) const {
-  const bool found = ReadAction::execute(value, text);
+bool ReadArrayCommaAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
+  const bool found = ReadAction::execute(value, text, lookups);
   flattenArrayText(text, ElementSeparator::comma, StringQuotes::kept);
   return found;
 }
 
-bool ReadArrayCommaNoQuoteAction::execute(const Value& value, std::string& text) const {
-  const bool found = ReadAction::execute(value, text);
+bool ReadArrayCommaNoQuoteAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
+  const bool found = ReadAction::execute(value, text, lookups);
   flattenArrayText(text, ElementSeparator::comma, StringQuotes::removed);
   return found;
 }
 
-bool ReadArraySpaceAction::execute(const Value& value, std::string& text) const {
-  const bool found = ReadAction::execute(value, text);
+bool ReadArraySpaceAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
+  const bool found = ReadAction::execute(value, text, lookups);
   flattenArrayText(text, ElementSeparator::space, StringQuotes::kept);
   return found;
 }
 
-bool ReadArraySpaceNoQuoteAction::execute(const Value& value, std::string& text) const {
-  const bool found = ReadAction::execute(value, text);
+bool ReadArraySpaceNoQuoteAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
+  const bool found = ReadAction::execute(value, text, lookups);
   flattenArrayText(text, ElementSeparator::space, StringQuotes::removed);
   return found;
 }

@@ -14,28 +14,28 @@ namespace kovalt {
 class ReadArrayCommaAction : public ReadAction {
  public:
   using ReadAction::ReadAction;
-  bool execute(const Value& value, std::string& text) const override;
+  bool execute(const Value& value, std::string& text, Lookups& lookups) const override;
 };
 
 /// Commas between the elements, no quotes.
 class ReadArrayCommaNoQuoteAction : public ReadAction {
  public:
   using ReadAction::ReadAction;
-  bool execute(const Value& value, std::string& text) const override;
+  bool execute(const Value& value, std::string& text, Lookups& lookups) const override;
 };
 
 /// Spaces between the elements, strings quoted.
 class ReadArraySpaceAction : public ReadAction {
  public:
   using ReadAction::ReadAction;
-  bool execute(const Value& value, std::string& text) const override;
+  bool execute(const Value& value, std::string& text, Lookups& lookups) const override;
 };
 
 /// Spaces between the elements, no quotes.
 class ReadArraySpaceNoQuoteAction : public ReadAction {
  public:
   using ReadAction::ReadAction;
-  bool execute(const Value& value, std::string& text) const override;
+  bool execute(const Value& value, std::string& text, Lookups& lookups) const override;
 };
 
 }  // namespace kovalt

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "actions/read/concat_records.h"
-#include "json/resolve_key_path.h"
 
 namespace kovalt {
 
@@ -17,8 +16,8 @@ ReadObjectArrayConcatAction::ReadObjectArrayConcatAction(std::string_view keyPat
   }
 }
 
-bool ReadObjectArrayConcatAction::execute(const Value& value, std::string& text) const {
-  const Value* target = resolveForRead(*this, value);
+bool ReadObjectArrayConcatAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
+  const Value* target = resolveForRead(*this, value, lookups);
   if (target == nullptr || !target->IsArray()) {
     return false;
   }
@@ -31,10 +30,12 @@ bool ReadObjectArrayConcatAction::execute(const Value& value, std::string& text)
 }
 
 std::string ReadObjectArrayConcatAction::readRecord(const Value& element) const {
+  // Shared by the fields only: with many elements, each is asked seldom.
+  Lookups lookups;
   std::string record;
   for (std::size_t i = 0; i < fields_.size(); ++i) {
     std::string field;
-    fields_[i]->execute(element, field);
+    fields_[i]->execute(element, field, lookups);
     if (i > 0) {
       appendSeparator(record, i - 1);
     }

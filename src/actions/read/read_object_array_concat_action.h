@@ -21,7 +21,7 @@ class ReadObjectArrayConcatAction : public ReadAction {
   /// Puts the records into `text`, a space between two, each with its count in parentheses where that is above 1.
   /// Returns false with `text` still empty where the path names nothing, which has been reported on standard error, or
   /// no array, which is not reported. A field that an element lacks is reported and reads as nothing.
-  bool execute(const Value& value, std::string& text) const override;
+  bool execute(const Value& value, std::string& text, Lookups& lookups) const override;
 
  private:
   [[nodiscard]] std::string readRecord(const Value& element) const;

@@ -1,0 +1,179 @@
+// A call of many options prints, saves and ends as the same options one by one on plain lists. An input is a section
+// with one argument a line, and up to two with the files "a", the one to work on, and "b", the one to merge.
+//
+// In all of it <N%M:text> stands for N texts with a comma or line end between them, in which "#" is the number of the
+// text, modulo M: the sizes at which look-ups change their method are out of reach of what a fuzzer writes.
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/parse_arguments.h"
+#include "app/run.h"
+#include "fuzz/input.h"
+#include "fuzz/plain_call.h"
+#include "fuzz/property.h"
+#include "fuzz/scratch_folder.h"
+#include "fuzz/target.h"
+
+namespace kovalt::fuzz {
+namespace {
+
+constexpr std::size_t kMostRepetitions = 200;
+constexpr std::size_t kLongestInput = 65536;
+
+std::string repeated(std::string text, const std::string& separator) {
+  std::string numbers = takeUpTo(":", text);
+  const std::size_t count = numberIn(takeUpTo("%", numbers), kMostRepetitions);
+  const std::size_t modulus = std::max<std::size_t>(1, numbers.empty() ? count : numberIn(numbers, kMostRepetitions));
+  std::string all;
+  for (std::size_t i = 0; i < count; ++i) {
+    all += i == 0 ? "" : separator;
+    for (const char byte : text) {
+      all += byte == '#' ? std::to_string(i % modulus) : std::string(1, byte);
+    }
+  }
+  return all;
+}
+
+std::string expanded(std::string text, const std::string& separator) {
+  std::string all;
+  while (!text.empty() && all.size() < kLongestInput) {
+    all += takeUpTo("<", text);
+    all += repeated(takeUpTo(">", text), separator);
+  }
+  return all;
+}
+
+/// One standard stream of the tool, caught in memory.
+class CaughtStream {
+ public:
+  explicit CaughtStream(int descriptor)
+      : descriptor_(descriptor), original_(dup(descriptor)), caught_(memfd_create("stream", 0)) {
+    expect(dup2(caught_, descriptor_) >= 0, "a stream can be caught");
+  }
+  CaughtStream(const CaughtStream&) = delete;
+  CaughtStream& operator=(const CaughtStream&) = delete;
+  ~CaughtStream() {
+    dup2(original_, descriptor_);
+    close(original_);
+    close(caught_);
+  }
+
+  [[nodiscard]] std::string text() const {
+    std::string bytes(static_cast<std::size_t>(lseek(caught_, 0, SEEK_END)), '\0');
+    expect(pread(caught_, bytes.data(), bytes.size(), 0) == static_cast<ssize_t>(bytes.size()), "all is read back");
+    return bytes;
+  }
+
+ private:
+  int descriptor_;
+  int original_;
+  int caught_;
+};
+
+std::optional<End> endOf(const ToolContext& context) {
+  try {
+    run(context);
+  } catch (const EarlyEnd& early) {
+    return early.end;
+  }
+  return std::nullopt;
+}
+
+bool takesValue(const std::string& name) { return name == "-as" || name == "-an" || name == "-ab" || name == "-afat"; }
+
+bool isPrintedNumber(const std::string& text) {
+  return text.size() < 10 && std::to_string(std::strtol(text.c_str(), nullptr, 10)) == text;
+}
+
+/// The options of a call; none where the plain call does not know one of them.
+std::vector<PlainOption> optionsIn(const std::vector<std::string>& arguments) {
+  std::vector<PlainOption> options;
+  for (std::size_t i = 0; i < arguments.size();) {
+    const std::string& name = arguments[i];
+    const bool known = takesValue(name) || name == "-ao" || name == "-rm" || name == "-rmc" || name == "-r";
+    const std::size_t length = takesValue(name) ? 3 : 2;
+    if (!known || i + length > arguments.size()) {
+      return {};
+    }
+    options.push_back({name, arguments[i + 1], takesValue(name) ? arguments[i + 2] : ""});
+    if (name == "-afat") {
+      options.back().value = "b";
+    }
+    if (name == "-an" && !isPrintedNumber(options.back().value)) {
+      return {};
+    }
+    i += length;
+  }
+  return options;
+}
+
+/// Parses the command line of these options. Returns false where it does not hold just them.
+bool parses(const std::vector<PlainOption>& options, ToolContext& context) {
+  std::vector<const char*> arguments = {"Kovalt", "-f", "a"};
+  for (const PlainOption& option : options) {
+    arguments.push_back(option.name.c_str());
+    arguments.push_back(option.keyPath.c_str());
+    if (takesValue(option.name)) {
+      arguments.push_back(option.value.c_str());
+    }
+  }
+  const bool parsed = parseArguments(context, static_cast<int>(arguments.size()), arguments.data());
+  return parsed &&
+         context.editActions.size() + context.removeActions.size() + context.readActions.size() == options.size();
+}
+
+void tryCall(const ToolContext& context, const Files& files, const PlainCall& expected) {
+  writeScratchFiles(files);
+  std::optional<End> end;
+  std::string output;
+  std::string errors;
+  {
+    const CaughtStream caughtOutput(STDOUT_FILENO);
+    const CaughtStream caughtErrors(STDERR_FILENO);
+    end = endOf(context);
+    output = caughtOutput.text();
+    errors = caughtErrors.text();
+  }
+  expect(end == expected.end, "many options end the process as the plain call does");
+  expect(errors == expected.errors, "many options report what the plain call reports");
+  expect(end || output == expected.output, "many options print what the plain call prints");
+  Files after = files;
+  if (!end && expected.modified) {
+    after["a"] = plainText(expected.document, 2);
+  }
+  expect(readScratchFiles() == after, "many options save what the plain call saves");
+}
+
+void tryInput(std::string input) {
+  std::vector<std::string> arguments = linesOf(expanded(takeUpTo(kSectionEnd, input), "\n"));
+  for (std::string& argument : arguments) {
+    argument = argument.substr(0, argument.find('\0'));
+  }
+  const std::vector<PlainOption> options = optionsIn(arguments);
+  Files files;
+  files["a"] = expanded(takeUpTo(kSectionEnd, input), ",");
+  files["b"] = expanded(takeUpTo(kSectionEnd, input), ",");
+  Document document;
+  Document merged;
+  ToolContext context;
+  if (options.empty() || !loadText(files["a"], document) || !loadText(files["b"], merged) ||
+      !parses(options, context)) {
+    return;
+  }
+  tryCall(context, files, callPlainly(options, plainValue(document), plainValue(merged)));
+}
+
+}  // namespace
+}  // namespace kovalt::fuzz
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  kovalt::fuzz::tryInput(kovalt::fuzz::inputText(data, size));
+  return 0;
+}

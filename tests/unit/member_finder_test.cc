@@ -1,0 +1,125 @@
+#include "json/member_finder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <random>
+#include <string>
+#include <unordered_map>
+#include <utility>
+
+#include "json/find_member.h"
+#include "json/text_value.h"
+#include "json_text.h"
+
+namespace kovalt::test {
+namespace {
+
+/// Members of one object, and one finder that serves all questions about it.
+class FoundMembers : public testing::TestWithParam<int> {
+ protected:
+  /// `GetParam()` names for all members, so that the fewer there are, the more are equal.
+  std::string anyName() { return "n" + std::to_string(number(GetParam())); }
+  int number(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random_); }
+
+  void append() {
+    Allocator& allocator = document.GetAllocator();
+    Value value(static_cast<std::uint64_t>(object().MemberCount()));
+    Value name = copyText(anyName(), allocator);
+    finder.append(object(), name, value, allocator);
+  }
+
+  /// Finds members, which is compared with a plain search, and now and then removes one.
+  void askAndRemove(int removalsInTen) {
+    const std::string name = anyName();
+    ASSERT_EQ(finder.find(object(), name), findMember(object(), name));
+    if (number(10) >= removalsInTen) {
+      return;
+    }
+    Document expected = parsed(textOf(object()));
+    EXPECT_EQ(finder.remove(object(), name), expected.RemoveMember(referToText(name)));
+    ASSERT_EQ(textOf(object()), textOf(expected));
+  }
+
+  Value& object() { return document["o"]; }
+
+  Document document = parsed(R"({"o":{}})");
+  MemberFinder finder;
+
+ private:
+  static std::string textOf(const Value& value) { return test::textOf(value); }
+
+  std::mt19937 random_{7};
+};
+
+TEST_P(FoundMembers, AreThoseOfAPlainSearchWhileTheObjectGrowsAndShrinks) {
+  for (int round = 0; round < 3; ++round) {
+    for (int i = 0; i < 150; ++i) {
+      append();
+      askAndRemove(0);
+    }
+    for (int i = 0; i < 250; ++i) {
+      askAndRemove(10);
+    }
+    for (int i = 0; i < 100; ++i) {
+      append();
+      askAndRemove(3);
+    }
+  }
+}
+
+TEST_P(FoundMembers, AreThoseOfTheObjectThatTookThePlaceOfAnother) {
+  for (int round = 0; round < 5; ++round) {
+    for (int i = 0; i < 100; ++i) {
+      append();
+      askAndRemove(1);
+    }
+    object().SetObject();
+    askAndRemove(1);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(MemberFinder, FoundMembers, testing::Values(1, 2, 10, 100, 1000));
+
+/// Two names whose hashes are equal in the 32 bits that an index keeps.
+std::pair<std::string, std::string> equalHashes() {
+  std::unordered_map<std::uint32_t, std::string> seen;
+  for (int i = 0;; ++i) {
+    const std::string text = std::to_string(i);
+    const auto hash = static_cast<std::uint32_t>(std::hash<std::string_view>()(text));
+    const auto [other, isNew] = seen.emplace(hash, text);
+    if (!isNew) {
+      return {other->second, text};
+    }
+  }
+}
+
+TEST(MemberFinder, TellsNamesWithEqualHashesApart) {
+  const auto [one, other] = equalHashes();
+  std::string json = R"({")" + one + R"(":1)";
+  for (int i = 0; i < 50; ++i) {
+    json += R"(,"member )" + std::to_string(i) + R"(":0)";
+  }
+  Document document = parsed(json + "}");
+  MemberFinder finder;
+  for (int i = 0; i < 50; ++i) {
+    ASSERT_EQ(finder.find(document, other), nullptr);
+    ASSERT_EQ(finder.find(document, one), &document.MemberBegin()->value);
+  }
+  Value name = copyText(other, document.GetAllocator());
+  finder.append(document, name, Value(2).Move(), document.GetAllocator());
+  EXPECT_EQ(finder.find(document, other), &(document.MemberEnd() - 1)->value);
+  EXPECT_EQ(finder.find(document, one), &document.MemberBegin()->value);
+}
+
+TEST(MemberFinder, FindsNothingInWhatIsNoObject) {
+  MemberFinder finder;
+  for (const char* json : {"null", "1", "[1]", "{}", R"("a")"}) {
+    Document document = parsed(json);
+    EXPECT_EQ(finder.find(document, "a"), nullptr) << json;
+  }
+}
+
+}  // namespace
+}  // namespace kovalt::test
