@@ -23,13 +23,15 @@ from pathlib import Path
 import charts
 import growth
 import large_files
+import many_files
 import options
 import report
 import start_up
 from measuring import Measuring, Peers
 from record import Record
 
-PARTS = {"start_up": start_up, "large_files": large_files, "options": options, "growth": growth}
+PARTS = {"start_up": start_up, "many_files": many_files, "large_files": large_files, "options": options,
+         "growth": growth}
 PACKAGES = ("crudini", "g++", "gron", "jo", "jq", "jshon", "rapidjson-dev", "valgrind", "yq")
 
 

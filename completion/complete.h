@@ -11,7 +11,7 @@ namespace kovalt {
 /// What can stand at the cursor.
 struct Completion {
   bool takesFile = false;          ///< A file name, which the shell itself knows best how to complete.
-  std::vector<std::string> lines;  ///< The candidates; behind an option stand a tab and what it does.
+  std::vector<std::string> lines;  ///< The candidates; after an option stand a tab and what it does.
 };
 
 /// What can stand in place of the word at `cursor`, which is typed up to there. The words are those of the command

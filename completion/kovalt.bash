@@ -34,7 +34,7 @@ _kovalt_unquote() {
   done
 }
 
-# Sets `quoted` to the text $1 as it is typed behind the quote that is left open.
+# Sets `quoted` to the text $1 as it is typed after the quote that is left open.
 _kovalt_quote() {
   case $quote in
     \') quoted=${1//\'/"'\\''"} ;;
@@ -71,7 +71,7 @@ _kovalt() {
   _kovalt_unquote "$cur"
   line[cword]=$value
 
-  # The line editor replaces no more than $2, which begins behind the last quote, "=" or ":".
+  # The line editor replaces no more than $2, which begins after the last quote, "=" or ":".
   local kept=${cur:0:${#cur}-${#2}}
   _kovalt_ask
   if [[ $kind == files ]]; then
@@ -82,7 +82,7 @@ _kovalt() {
   if ((${#candidates[@]} == 1)) && [[ ${candidates[0]} == *[.=] ]]; then
     compopt -o nospace
     if [[ $quote ]]; then
-      # A quote is closed behind the only candidate, but not where candidates for the next step stand beside it.
+      # A quote is closed after the only candidate, but not where candidates for the next step stand beside it.
       local only=${candidates[0]}
       line[cword]=$only
       _kovalt_ask
@@ -98,7 +98,7 @@ _kovalt() {
     COMPREPLY+=("$typed$quoted")
   done
   if ((${#COMPREPLY[@]} == 1)); then
-    # The line editor forgets to close a quote behind a name that ends in one.
+    # The line editor forgets to close a quote after a name that ends in one.
     COMPREPLY[0]+=$quote
   fi
 } && complete -F _kovalt Kovalt kovalt

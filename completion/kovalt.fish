@@ -20,7 +20,7 @@ function __kovalt_expand
 end
 
 function __kovalt_complete
-    # A completion of fish sees nothing of the line behind the cursor.
+    # A completion of fish sees nothing of the line after the cursor.
     set -l before (commandline --current-process --tokenize --cut-at-cursor)
     set -l token (commandline --current-token --cut-at-cursor)
     # The word at the cursor may leave a quote open.

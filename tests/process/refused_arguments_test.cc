@@ -219,7 +219,7 @@ std::vector<ToolCall> missingArguments() {
           .given("conf.json", R"({"a":1})"),
       lacking("file_display_shows_nothing", "-r").call("-fd conf.json -r").given("conf.json", R"({"a":1})"),
 
-      // The concatenation needs an argument behind its key path, though not one that it can use.
+      // The concatenation needs an argument after its key path, though not one that it can use.
       lacking("concat_followed_by_an_option_alone", "-as").call("-roac k -as"),
 
       // The separator is there, but no field is.

@@ -22,7 +22,7 @@ bool standsForItself(int code) { return code >= 0x20 && code != '"' && code != '
 
 bool isWhiteSpace(int code) { return code == ' ' || code == '\n' || code == '\r' || code == '\t'; }
 
-/// A text in memory of its own, so that a sanitizer sees a look behind the last whole block.
+/// A text in memory of its own, so that a sanitizer sees a look beyond the last whole block.
 template <typename Block>
 std::string inBlocks(std::string text) {
   text.resize(text.size() + Block::kSize);
