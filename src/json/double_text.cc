@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 
 namespace kovalt {
 namespace {
@@ -100,19 +101,18 @@ void shorten(double value, Decimal& decimal) {
 
 }  // namespace
 
-char* writeDouble(double value, DoubleText& text) {
-  char* start = text.data();
+char* writeDouble(double value, char* text) {
   if (std::signbit(value)) {
-    *start++ = '-';
+    *text++ = '-';
     value = -value;
   }
-  Decimal decimal{start, 1, 0};
+  Decimal decimal{text, 1, 0};
   if (value == 0) {
-    *start = '0';
+    *text = '0';
   } else if (!findFewDigits(value, decimal) && !findByRapidJson(value, decimal)) {
     shorten(value, decimal);
   }
-  return rapidjson::internal::Prettify(start, decimal.length, decimal.exponent, 324);
+  return rapidjson::internal::Prettify(text, decimal.length, decimal.exponent, 324);
 }
 
 }  // namespace kovalt

@@ -1,13 +1,14 @@
 #include "json/print_value.h"
 
+#include <cstdio>
+
 #include "json/standard_streams.h"
-#include "json/tuning/display_stream.h"
 #include "json/write_value.h"
 
 namespace kovalt {
 
 void printValue(const Value& value) {
-  DisplayStream stream;
+  OutputStream stream(stdout);
   writeText(value, TextLayout::screenIndented, stream);
   printLine("");
 }

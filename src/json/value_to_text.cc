@@ -1,13 +1,11 @@
 #include "json/value_to_text.h"
 
-#include <rapidjson/stringbuffer.h>
-
 #include "json/write_value.h"
 
 namespace kovalt {
 
 std::string valueToText(const Value& value, bool pretty) {
-  rapidjson::GenericStringBuffer<rapidjson::UTF8<>, AbortingAllocator> buffer;
+  TextBuffer buffer;
   writeText(value, pretty ? TextLayout::screenIndented : TextLayout::compact, buffer);
   return {buffer.GetString(), buffer.GetSize()};
 }

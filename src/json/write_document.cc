@@ -1,7 +1,5 @@
 #include "json/write_document.h"
 
-#include <rapidjson/filewritestream.h>
-
 #include <cstdio>
 
 #include "json/standard_streams.h"
@@ -15,8 +13,7 @@ bool writeDocument(const Document& document, const std::string& path) {
     reportLine("Could not write document: " + path);
     return false;
   }
-  char buffer[65536];
-  rapidjson::FileWriteStream stream(file, buffer, sizeof(buffer));
+  OutputStream stream(file);
   writeText(document, TextLayout::fileIndented, stream);
   std::fclose(file);
   return true;

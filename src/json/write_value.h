@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "json/document.h"
-#include "json/double_text.h"
 
 namespace kovalt {
 
@@ -23,20 +22,14 @@ template <typename Writer>
 void writeScalar(const Value& value, Writer& writer) {
   if (value.IsString()) {
     writer.String(value.GetString(), value.GetStringLength());
-  } else if (value.IsInt()) {
-    writer.Int(value.GetInt());
+  } else if (value.IsInt64()) {
+    writer.Int64(value.GetInt64());
   } else if (value.IsDouble()) {
-    DoubleText text;
-    const char* end = writeDouble(value.GetDouble(), text);
-    writer.RawValue(text.data(), static_cast<std::size_t>(end - text.data()), rapidjson::kNumberType);
+    writer.Double(value.GetDouble());
   } else if (value.IsBool()) {
     writer.Bool(value.GetBool());
   } else if (value.IsNull()) {
     writer.Null();
-  } else if (value.IsUint()) {
-    writer.Uint(value.GetUint());
-  } else if (value.IsInt64()) {
-    writer.Int64(value.GetInt64());
   } else {
     writer.Uint64(value.GetUint64());
   }

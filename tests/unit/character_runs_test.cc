@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 namespace kovalt::test {
 namespace {
@@ -65,6 +67,23 @@ TYPED_TEST(CharacterRuns, GoOnOverEachCharacterOfTheirKindWhateverStandsBesideIt
       EXPECT_EQ(static_cast<std::size_t>(endOfBlanks<TypeParam>(text.data()) - text.data()), blanks) << code;
     }
   }
+}
+
+TYPED_TEST(CharacterRuns, AreCopiedUpToEachCharacterThatEndsThem) {
+  for (int code = 0; code < 256; ++code) {
+    for (std::size_t size = 1; size < 40; ++size) {
+      for (std::size_t place = 0; place < size; ++place) {
+        // In memory of their own, so that a sanitizer sees a look before or after them.
+        std::vector<char> text(size, 'a');
+        text[place] = static_cast<char>(code);
+        std::vector<char> copy(size, '-');
+        const std::size_t copied = copyPlain<TypeParam>(text.data(), size, copy.data());
+        ASSERT_EQ(copied, standsForItself(code) ? size : place) << code << ' ' << size << ' ' << place;
+        ASSERT_TRUE(std::equal(copy.data(), copy.data() + copied, text.data())) << code << ' ' << size << ' ' << place;
+      }
+    }
+  }
+  EXPECT_EQ(copyPlain<TypeParam>(nullptr, 0, nullptr), 0U);
 }
 
 }  // namespace

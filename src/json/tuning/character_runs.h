@@ -28,18 +28,22 @@ struct WordBlock {
 
   /// How many of the characters at the front of the block stand for themselves.
   static std::size_t countPlain(const char* block) {
+    std::size_t count = isPlain(load(block)) ? kSize : 0;
+    while (count < kSize && kovalt::isPlain(block[count])) {
+      ++count;
+    }
+    return count;
+  }
+
+  /// Whether all eight characters of `word` stand for themselves.
+  static bool isPlain(std::uint64_t word) {
     constexpr std::uint64_t kHighBits = 0x80 * kOnes;
-    const std::uint64_t word = load(block);
     const std::uint64_t quotes = word ^ '"' * kOnes;
     const std::uint64_t backslashes = word ^ '\\' * kOnes;
     // Zero unless a byte is below a space, or zero in one of the last two. Which one it is depends on the byte order.
     const std::uint64_t others =
         ((word - ' ' * kOnes) & ~word) | ((quotes - kOnes) & ~quotes) | ((backslashes - kOnes) & ~backslashes);
-    std::size_t count = (others & kHighBits) == 0 ? kSize : 0;
-    while (count < kSize && isPlain(block[count])) {
-      ++count;
-    }
-    return count;
+    return (others & kHighBits) == 0;
   }
 
   /// How many of the characters at the front of the block are blanks.
@@ -97,6 +101,37 @@ using CharacterBlock = Sse2Block;
 #else
 using CharacterBlock = WordBlock;
 #endif
+
+/// Copies the first of `size` characters, as many as stand for themselves, and returns how many. May put others after
+/// them, but nothing after `to + size`.
+template <typename Block>
+std::size_t copyPlain(const char* from, std::size_t size, char* to) {
+  std::size_t copied = 0;
+  for (; size - copied >= Block::kSize; copied += Block::kSize) {
+    std::memcpy(to + copied, from + copied, Block::kSize);
+    const std::size_t plain = Block::countPlain(from + copied);
+    if (plain < Block::kSize) {
+      return copied + plain;
+    }
+  }
+  // The rest is read in smaller parts: nothing after it may be, and what was just put in is slow to read again as more.
+  std::uint64_t word = 0;
+  if (size - copied >= sizeof(word)) {
+    std::memcpy(&word, from + copied, sizeof(word));
+    std::memcpy(to + copied, &word, sizeof(word));
+    copied += WordBlock::isPlain(word) ? sizeof(word) : 0;
+  }
+  std::uint32_t half = 0;
+  if (size - copied >= sizeof(half)) {
+    std::memcpy(&half, from + copied, sizeof(half));
+    std::memcpy(to + copied, &half, sizeof(half));
+    copied += WordBlock::isPlain(half * std::uint64_t{0x100000001}) ? sizeof(half) : 0;
+  }
+  for (; copied < size && isPlain(from[copied]); ++copied) {
+    to[copied] = from[copied];
+  }
+  return copied;
+}
 
 /// The first character from `text` on that does not stand for itself. There must be one, and whole blocks readable.
 template <typename Block>

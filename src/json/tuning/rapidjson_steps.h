@@ -6,13 +6,31 @@
 #include <rapidjson/document.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
+#include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
 #include <cstddef>
+#include <cstring>
 
+#include "json/double_text.h"
 #include "json/tuning/aborting_allocator.h"
-#include "json/tuning/display_stream.h"
 #include "json/tuning/input_stream.h"
+#include "json/tuning/output_stream.h"
+
+namespace kovalt {
+
+/// What texts in memory are written to.
+using TextBuffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, AbortingAllocator>;
+
+/// Has `write` put the text of a number into `stream`.
+template <typename Stream, typename Write>
+bool putNumber(Stream& stream, Write write) {
+  char* const text = stream.Push(kLongestNumber);
+  stream.Pop(static_cast<std::size_t>(text + kLongestNumber - write(text)));
+  return true;
+}
+
+}  // namespace kovalt
 
 namespace rapidjson {
 
@@ -42,16 +60,52 @@ inline void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanCopyUn
 
 /// How the pretty writer indents.
 template <>
-inline void PutN(kovalt::DisplayStream& stream, char c, std::size_t n) {
+inline void PutN(kovalt::OutputStream& stream, char c, std::size_t n) {
   stream.putRepeated(c, n);
+}
+
+/// What the pretty writer puts in front of a name or value.
+template <>
+inline void PrettyWriter<kovalt::OutputStream, UTF8<>, UTF8<>, kovalt::AbortingAllocator>::PrettyPrefix(Type type) {
+  if (level_stack_.Empty()) {
+    RAPIDJSON_ASSERT(!hasRoot_);
+    hasRoot_ = true;
+    return;
+  }
+  Level& level = *level_stack_.Top<Level>();
+  if (!level.inArray && level.valueCount % 2 != 0) {
+    std::memcpy(os_->Push(2), ": ", 2);
+  } else {
+    RAPIDJSON_ASSERT(level.inArray || type == kStringType);
+    os_->startLine(level.valueCount > 0, level_stack_.GetSize() / sizeof(Level) * indentCharCount_);
+  }
+  ++level.valueCount;
+}
+
+/// How the writers put numbers.
+template <>
+inline bool Writer<kovalt::OutputStream, UTF8<>, UTF8<>, kovalt::AbortingAllocator>::WriteInt64(int64_t number) {
+  return kovalt::putNumber(*os_, [=](char* text) { return internal::i64toa(number, text); });
+}
+template <>
+inline bool Writer<kovalt::OutputStream, UTF8<>, UTF8<>, kovalt::AbortingAllocator>::WriteUint64(uint64_t number) {
+  return kovalt::putNumber(*os_, [=](char* text) { return internal::u64toa(number, text); });
+}
+template <>
+inline bool Writer<kovalt::OutputStream, UTF8<>, UTF8<>, kovalt::AbortingAllocator>::WriteDouble(double number) {
+  return kovalt::putNumber(*os_, [=](char* text) { return kovalt::writeDouble(number, text); });
+}
+template <>
+inline bool Writer<kovalt::TextBuffer, UTF8<>, UTF8<>, kovalt::AbortingAllocator>::WriteDouble(double number) {
+  return kovalt::putNumber(*os_, [=](char* text) { return kovalt::writeDouble(number, text); });
 }
 
 /// The step of the writer that takes what needs no look at each character. Returns whether any of the string is left,
 /// of which the writer then takes one character by itself.
 template <>
-inline bool Writer<kovalt::DisplayStream, UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanWriteUnescapedString(
+inline bool Writer<kovalt::OutputStream, UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanWriteUnescapedString(
     GenericStringStream<UTF8<>>& text, std::size_t length) {
-  text.src_ += os_->putUnescaped({text.src_, length - text.Tell()});
+  text.src_ += os_->putPlain({text.src_, length - text.Tell()});
   return text.Tell() < length;
 }
 
