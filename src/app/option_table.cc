@@ -39,12 +39,15 @@ void addRemoval(ToolContext& context, OptionArguments&& arguments) {
 
 template <typename Action>
 void addRead(ToolContext& context, OptionArguments&& arguments) {
-  context.readActions.push_back(std::make_unique<Action>(arguments.first));
+  auto action = std::make_unique<Action>(arguments.first);
+  action->keepValue(context.projection, Projection::kRoot);
+  context.readActions.push_back(std::move(action));
 }
 
 void addConcatenation(ToolContext& context, OptionArguments&& arguments) {
-  context.readActions.push_back(
-      std::make_unique<ReadObjectArrayConcatAction>(arguments.first, arguments.list, arguments.separators));
+  auto action = std::make_unique<ReadObjectArrayConcatAction>(arguments.first, arguments.list, arguments.separators);
+  action->keepFields(context.projection, Projection::kRoot);
+  context.readActions.push_back(std::move(action));
 }
 
 void addSpacedConcatenation(ToolContext& context, OptionArguments&& arguments) {

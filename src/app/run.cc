@@ -10,9 +10,20 @@
 namespace kovalt {
 namespace {
 
+/// Whether nothing but the reads can look at the document.
+bool onlyReads(const ToolContext& context) {
+  return context.editActions.empty() && context.removeActions.empty() && !context.displayResult &&
+         !context.readActions.empty();
+}
+
+bool load(const ToolContext& context, Document& document) {
+  return onlyReads(context) ? loadProjected(context.filePath, context.projection, document)
+                            : loadDocument(context.filePath, document, false);
+}
+
 /// A file that is missing, unreadable or no JSON counts as an empty object.
-void loadOrStartEmpty(const std::string& filePath, Document& document) {
-  if (filePath.empty() || !loadDocument(filePath, document, false)) {
+void loadOrStartEmpty(const ToolContext& context, Document& document) {
+  if (context.filePath.empty() || !load(context, document)) {
     document.SetObject();
   }
 }
@@ -41,7 +52,7 @@ bool applyRemovals(const ToolContext& context, Document& document) {
 
 bool run(const ToolContext& context) {
   Document document;
-  loadOrStartEmpty(context.filePath, document);
+  loadOrStartEmpty(context, document);
   applyEdits(context, document);
   const bool allRemovalsOk = applyRemovals(context, document);
 

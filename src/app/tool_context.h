@@ -9,6 +9,7 @@
 #include "actions/edit/edit_action.h"
 #include "actions/edit/remove_action.h"
 #include "actions/read/read_action.h"
+#include "json/projection.h"
 
 namespace kovalt {
 
@@ -19,6 +20,7 @@ struct ToolContext {
   std::vector<std::unique_ptr<ReadAction>> readActions;
   std::string filePath;        ///< The file to load and save; empty for none.
   bool displayResult = false;  ///< Display the document whatever else is asked for.
+  Projection projection;       ///< What the reads can look at.
 };
 
 }  // namespace kovalt

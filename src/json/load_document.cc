@@ -2,24 +2,34 @@
 
 #include <cstdio>
 
+#include "json/projecting_handler.h"
 #include "json/standard_streams.h"
 #include "json/tuning/input_stream.h"
 
 namespace kovalt {
 namespace {
 
-bool parse(std::FILE* file, Document& document) {
+bool parse(std::FILE* file, const Projection& projection, Document& document) {
   InputBuffer buffer(file);
   InputStream stream(buffer);
+  ProjectingHandler handler(projection, document);
   bool parsed = false;
-  // The same document is passed in, but as its base, whose builder would take infinite numbers.
-  auto generate = [&](auto& /*base*/) {
+  auto generate = [&](Document& /*document*/) {
     rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, AbortingAllocator> reader;
     // The reader also stops at a NUL character.
-    parsed = !reader.Parse<rapidjson::kParseDefaultFlags>(stream, document).IsError() && stream.isAtEnd();
+    parsed = !reader.Parse<rapidjson::kParseDefaultFlags>(stream, handler).IsError() && stream.isAtEnd();
     return parsed;
   };
   document.Populate(generate);
+  return parsed;
+}
+
+bool parseAndClose(std::FILE* file, const std::string& path, const Projection& projection, Document& document) {
+  const bool parsed = parse(file, projection, document);
+  std::fclose(file);
+  if (!parsed) {
+    reportLine("Could not parse json file " + path);
+  }
   return parsed;
 }
 
@@ -33,12 +43,14 @@ bool loadDocument(const std::string& path, Document& document, bool reportOpenFa
     }
     return false;
   }
-  const bool parsed = parse(file, document);
-  std::fclose(file);
-  if (!parsed) {
-    reportLine("Could not parse json file " + path);
-  }
-  return parsed;
+  Projection whole;
+  whole.addWhole(Projection::kRoot);
+  return parseAndClose(file, path, whole, document);
+}
+
+bool loadProjected(const std::string& path, const Projection& projection, Document& document) {
+  std::FILE* file = std::fopen(path.c_str(), "r");
+  return file != nullptr && parseAndClose(file, path, projection, document);
 }
 
 }  // namespace kovalt

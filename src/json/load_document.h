@@ -5,6 +5,7 @@
 #include <string>
 
 #include "json/document.h"
+#include "json/projection.h"
 
 namespace kovalt {
 
@@ -12,5 +13,9 @@ namespace kovalt {
 /// opened, which is reported on standard error only with `reportOpenFailure`, or when its content is not exactly one
 /// JSON value, which is always reported. A number beyond the largest double counts as an error too.
 bool loadDocument(const std::string& path, Document& document, bool reportOpenFailure);
+
+/// As `loadDocument` without a report of a file that cannot be opened, but `document` becomes only what `projection`
+/// keeps of the file. All of it is read and checked.
+bool loadProjected(const std::string& path, const Projection& projection, Document& document);
 
 }  // namespace kovalt

@@ -17,4 +17,8 @@ bool ReadAction::execute(const Value& value, std::string& text, Lookups& lookups
   return true;
 }
 
+void ReadAction::keepValue(Projection& projection, Projection::Place from) const {
+  projection.addWhole(projection.addWalk(*this, from));
+}
+
 }  // namespace kovalt

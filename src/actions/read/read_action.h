@@ -7,6 +7,7 @@
 
 #include "json/document.h"
 #include "json/key_path.h"
+#include "json/projection.h"
 #include "json/resolve_key_path.h"
 
 namespace kovalt {
@@ -22,6 +23,9 @@ class ReadAction : public KeyPath {
   ///
   /// `lookups` are those of all reads from the same document.
   virtual bool execute(const Value& value, std::string& text, Lookups& lookups) const;
+
+  /// Keeps what a read of the whole value looks at, walked from a value at `from`.
+  void keepValue(Projection& projection, Projection::Place from) const;
 };
 
 }  // namespace kovalt

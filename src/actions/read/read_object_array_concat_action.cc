@@ -29,6 +29,13 @@ bool ReadObjectArrayConcatAction::execute(const Value& value, std::string& text,
   return true;
 }
 
+void ReadObjectArrayConcatAction::keepFields(Projection& projection, Projection::Place from) const {
+  const Projection::Place element = projection.addElements(projection.addWalk(*this, from));
+  for (const auto& field : fields_) {
+    field->keepValue(projection, element);
+  }
+}
+
 std::string ReadObjectArrayConcatAction::readRecord(const Value& element) const {
   // Shared by the fields only: with many elements, each is asked seldom.
   Lookups lookups;

@@ -23,6 +23,9 @@ class ReadObjectArrayConcatAction : public ReadAction {
   /// no array, which is not reported. A field that an element lacks is reported and reads as nothing.
   bool execute(const Value& value, std::string& text, Lookups& lookups) const override;
 
+  /// Keeps what the read looks at, walked from a value at `from`: of each element only its fields.
+  void keepFields(Projection& projection, Projection::Place from) const;
+
  private:
   [[nodiscard]] std::string readRecord(const Value& element) const;
   void appendSeparator(std::string& record, std::size_t fieldIndex) const;

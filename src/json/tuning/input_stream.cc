@@ -1,5 +1,7 @@
 #include "json/tuning/input_stream.h"
 
+#include <cstring>
+
 namespace kovalt {
 
 InputBuffer::InputBuffer(std::FILE* file) : file_(file) { fill(); }

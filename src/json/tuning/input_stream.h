@@ -4,7 +4,8 @@
 
 #include <cstddef>
 #include <cstdio>
-#include <cstring>
+#include <optional>
+#include <string_view>
 
 #include "json/tuning/character_runs.h"
 
@@ -76,14 +77,26 @@ class InputStream {
     }
   }
 
-  /// Takes characters that stand for themselves in a string and adds them to `text`: up to one that does not, or as
+  /// Takes characters that stand for themselves in a string and hands them to `take`: up to one that does not, or as
   /// many as the buffer holds.
-  template <typename Text>
-  void takePlain(Text& text) {
+  template <typename Take>
+  void takePlain(Take take) {
     const char* const end = endOfPlain<CharacterBlock>(next_);
-    const auto size = static_cast<std::size_t>(end - next_);
-    std::memcpy(text.Push(static_cast<unsigned>(size)), next_, size);
+    take(std::string_view(next_, static_cast<std::size_t>(end - next_)));
     next_ = end;
+    settle();
+  }
+
+  /// The text before the quote at the end of a string, if the buffer holds it all and all of it stands for itself. It
+  /// is valid until something is taken.
+  [[nodiscard]] std::optional<std::string_view> peekString() const {
+    const char* const end = endOfPlain<CharacterBlock>(next_);
+    return *end == '"' ? std::optional(std::string_view(next_, static_cast<std::size_t>(end - next_))) : std::nullopt;
+  }
+
+  /// Takes `count` characters, which the buffer must hold.
+  void skip(std::size_t count) {
+    next_ += count;
     settle();
   }
 

@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <string_view>
 
 #include "json/double_text.h"
 #include "json/tuning/aborting_allocator.h"
@@ -29,6 +30,14 @@ bool putNumber(Stream& stream, Write write) {
   stream.Pop(static_cast<std::size_t>(text + kLongestNumber - write(text)));
   return true;
 }
+
+class ProjectingHandler;
+
+/// Takes the text of a string that is passed over.
+class PassedText {
+ public:
+  static void Put(char /*character*/) {}
+};
 
 }  // namespace kovalt
 
@@ -55,8 +64,23 @@ template <>
 template <>
 inline void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanCopyUnescapedString(
     kovalt::InputStream& stream, StackStream<char>& text) {
-  stream.takePlain(text);
+  stream.takePlain([&text](std::string_view run) {
+    std::memcpy(text.Push(static_cast<SizeType>(run.size())), run.data(), run.size());
+  });
 }
+template <>
+template <>
+inline void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanCopyUnescapedString(
+    kovalt::InputStream& stream, kovalt::PassedText& /*text*/) {
+  stream.takePlain([](std::string_view /*run*/) {});
+}
+
+/// How the reader takes a string for a load: as it stands in the stream's buffer, where it can be, and without keeping
+/// its text, where it is passed over.
+template <>
+template <>
+void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseString<kParseDefaultFlags>(
+    kovalt::InputStream& stream, kovalt::ProjectingHandler& handler, bool isKey);
 
 /// How the pretty writer indents.
 template <>

@@ -1,0 +1,34 @@
+#include "json/tuning/rapidjson_steps.h"
+
+#include <optional>
+#include <string_view>
+
+#include "json/projecting_handler.h"
+
+namespace rapidjson {
+
+template <>
+template <>
+void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseString<kParseDefaultFlags>(
+    kovalt::InputStream& stream, kovalt::ProjectingHandler& handler, bool isKey) {
+  stream.Take();
+  if (const std::optional<std::string_view> text = stream.peekString()) {
+    handler.takeText(*text, isKey);
+    stream.skip(text->size() + 1);
+    return;
+  }
+  if (!handler.takesText(isKey)) {
+    kovalt::PassedText passed;
+    ParseStringToStream<kParseDefaultFlags, UTF8<>, UTF8<>>(stream, passed);
+    RAPIDJSON_PARSE_ERROR_EARLY_RETURN_VOID;
+    handler.takeText({}, isKey);
+    return;
+  }
+  StackStream<char> text(stack_);
+  ParseStringToStream<kParseDefaultFlags, UTF8<>, UTF8<>>(stream, text);
+  RAPIDJSON_PARSE_ERROR_EARLY_RETURN_VOID;
+  const std::size_t length = text.Length() - 1;
+  handler.takeText({text.Pop(), length}, isKey);
+}
+
+}  // namespace rapidjson
