@@ -71,6 +71,14 @@ class Wanted {
   double number_ = std::numeric_limits<double>::quiet_NaN();
 };
 
+/// Whether `element` is one to select, and what else it holds.
+std::pair<bool, Rest> compare(const Value& element, std::string_view refKey, const Wanted& wanted) {
+  bool matched = false;
+  const Rest rest =
+      visitScalars(element, refKey, [&](const Value& scalar) { matched = matched || wanted.matches(scalar); });
+  return {matched, rest};
+}
+
 void reportNotFound(std::string_view refKey, std::string_view refValue, bool explainArgument) {
   std::string message = "Kovalt path not found with refKey=refValue \"";
   message.append(refKey).append("=").append(refValue).append("\"");
@@ -90,9 +98,7 @@ const Value* findObjectByRef(const Value* array, std::string_view refKey, std::s
   if (array != nullptr && array->IsArray()) {
     const Wanted wanted(refValue);
     for (const Value& element : array->GetArray()) {
-      bool matched = false;
-      const Rest rest =
-          visitScalars(element, refKey, [&](const Value& scalar) { matched = matched || wanted.matches(scalar); });
+      const auto [matched, rest] = compare(element, refKey, wanted);
       if (matched) {
         return &element;
       }
@@ -107,42 +113,59 @@ const Value* findObjectByRef(const Value* array, std::string_view refKey, std::s
 }
 
 const Value* ObjectFinder::find(const Value* array, std::string_view refKey, std::string_view refValue) {
-  const Index* index =
-      array == nullptr || !array->IsArray() || array->Size() <= kScannedSize ? nullptr : indexFor(*array, refKey);
+  const bool isLarge = array != nullptr && array->IsArray() && array->Size() > kScannedSize;
+  Index* index = isLarge ? indexFor(*array, refKey) : nullptr;
   if (index == nullptr) {
     return findObjectByRef(array, refKey, refValue);
   }
-  const auto first = index->firstWith.find(std::string(refValue));
-  if (first != index->firstWith.end()) {
-    return array->Begin() + first->second;
+  const Wanted wanted(refValue);
+  auto& elements = index->elementsWith[std::string(refValue)];
+  while (!elements.empty() && *elements.begin() < index->size) {
+    const Value& element = (*array)[*elements.begin()];
+    if (compare(element, refKey, wanted).first) {
+      return &element;
+    }
+    elements.erase(elements.begin());
   }
-  reportNotFound(refKey, refValue, index->stopped || index->badItemSeen);
+  reportNotFound(refKey, refValue,
+                 index->size < array->Size() || (!index->badItems.empty() && *index->badItems.begin() < index->size));
   return nullptr;
 }
 
-const ObjectFinder::Index* ObjectFinder::indexFor(const Value& array, std::string_view refKey) {
+ObjectFinder::Index* ObjectFinder::indexFor(const Value& array, std::string_view refKey) {
   Index& index = indexes_[{array.Begin(), std::string(refKey)}];
   if (index.scans < kScans) {
     ++index.scans;
     return nullptr;
   }
-  while (!index.stopped && index.size < array.Size()) {
-    const Rest rest = visitScalars(array[index.size], refKey, [&](const Value& scalar) {
-      index.firstWith.try_emplace(refValueOf(scalar), index.size);
-    });
-    index.badItemSeen |= rest == Rest::badItems;
-    index.stopped = rest == Rest::impossible;
-    index.size += index.stopped ? 0 : 1;
+  const auto takeIn = [&](SizeType position) {
+    const Rest rest = visitScalars(
+        array[position], refKey, [&](const Value& scalar) { index.elementsWith[refValueOf(scalar)].insert(position); });
+    if (rest == Rest::badItems) {
+      index.badItems.insert(position);
+    } else {
+      index.badItems.erase(position);
+    }
+    return rest != Rest::impossible;
+  };
+  for (const SizeType position : index.changed) {
+    if (position < index.size && !takeIn(position)) {
+      index.size = position;
+    }
+  }
+  index.changed.clear();
+  while (index.size < array.Size() && takeIn(index.size)) {
+    ++index.size;
   }
   return &index;
 }
 
-void ObjectFinder::forget(const Value& array, const std::string& name) { indexes_.erase({array.Begin(), name}); }
-
-void ObjectFinder::forget(const Value& array) {
-  auto index = indexes_.lower_bound({array.Begin(), std::string()});
-  while (index != indexes_.end() && index->first.first == array.Begin()) {
-    index = indexes_.erase(index);
+void ObjectFinder::willChange(const Value& array, const Value& element, const std::string* name) {
+  for (auto index = indexes_.lower_bound({array.Begin(), std::string()});
+       index != indexes_.end() && index->first.first == array.Begin(); ++index) {
+    if (name == nullptr || index->first.second == *name) {
+      index->second.changed.push_back(static_cast<SizeType>(&element - array.Begin()));
+    }
   }
 }
 

@@ -3,10 +3,12 @@
 // The selection of one object inside an array of objects, by the value of one of its members.
 
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "json/document.h"
 
@@ -26,28 +28,28 @@ const Value* findObjectByRef(const Value* array, std::string_view refKey, std::s
 /// document.
 ///
 /// An index belongs to an array of elements, not to a value, and a document's pool never uses memory twice, so an index
-/// is never taken for that of another array. What is appended is taken in by the next question. Values inside the
-/// elements change after a call of `forget` only, which drops the indexes that may know them.
+/// is never taken for that of another array. It holds each element under every text that selects it: what is appended
+/// is taken in by the next question, and what `willChange` names is taken in again. Under a text it may hold elements
+/// that have changed since; they are compared when their turn comes, and dropped.
 class ObjectFinder {
  public:
   /// As `findObjectByRef`, with its messages.
   const Value* find(const Value* array, std::string_view refKey, std::string_view refValue);
 
-  /// To be called before the member `name` of an element of `array`, or anything inside it, changes.
-  void forget(const Value& array, const std::string& name);
-  /// To be called before a whole element of `array` changes.
-  void forget(const Value& array);
+  /// To be called before the member `*name` of `element` of `array` changes, or anything inside it; with a null `name`,
+  /// before the whole element does.
+  void willChange(const Value& array, const Value& element, const std::string* name);
 
  private:
   struct Index {
-    std::unordered_map<std::string, rapidjson::SizeType> firstWith;  ///< The first element that matches a text.
-    rapidjson::SizeType size = 0;                                    ///< How many elements have been taken in.
-    bool stopped = false;                                            ///< The next element ends every search.
-    bool badItemSeen = false;
-    unsigned scans = 0;  ///< How many questions were answered without it.
+    std::unordered_map<std::string, std::set<rapidjson::SizeType>> elementsWith;  ///< By the text that selects them.
+    std::set<rapidjson::SizeType> badItems;    ///< The elements with an array that holds what never matches.
+    std::vector<rapidjson::SizeType> changed;  ///< The elements to take in again.
+    rapidjson::SizeType size = 0;              ///< Up to here the elements can match; the next one ends a search.
+    unsigned scans = 0;                        ///< How many questions were answered without it.
   };
 
-  const Index* indexFor(const Value& array, std::string_view refKey);
+  Index* indexFor(const Value& array, std::string_view refKey);
 
   std::map<std::pair<const Value*, std::string>, Index> indexes_;
 };

@@ -23,11 +23,7 @@ const Value* walk(const KeyPath& path, const Value& root, Lookups& lookups, Purp
     current = lookups.objects.find(&array, selection.substr(0, equals), selection.substr(equals + 1));
     if (current != nullptr && purpose == Purpose::edit) {
       // The caller is about to change the element, or something inside the member that the next step names.
-      if (step + 1 == path.steps().end()) {
-        lookups.objects.forget(array);
-      } else {
-        lookups.objects.forget(array, step[1]);
-      }
+      lookups.objects.willChange(array, *current, step + 1 == path.steps().end() ? nullptr : &step[1]);
     }
   }
   return current;
