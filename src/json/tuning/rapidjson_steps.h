@@ -65,7 +65,9 @@ template <>
 inline void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanCopyUnescapedString(
     kovalt::InputStream& stream, StackStream<char>& text) {
   stream.takePlain([&text](std::string_view run) {
-    std::memcpy(text.Push(static_cast<SizeType>(run.size())), run.data(), run.size());
+    if (!run.empty()) {
+      std::memcpy(text.Push(static_cast<SizeType>(run.size())), run.data(), run.size());
+    }
   });
 }
 template <>
