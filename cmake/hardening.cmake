@@ -1,5 +1,6 @@
 # The programs read files that others wrote, so a defect should end them rather than serve somebody. CONTRIBUTING.md says
 # what is left out. Not with the sanitizers, which find more.
+include(CheckCXXCompilerFlag)
 include(CheckLinkerFlag)
 add_library(kovalt_hardened_code INTERFACE)
 add_library(kovalt_hardened INTERFACE)
@@ -9,14 +10,21 @@ if(KOVALT_STATIC AND NOT KOVALT_SANITIZE)
     kovalt_hardened_code
     INTERFACE -fPIE -fstack-protector-strong -fstack-clash-protection -fno-delete-null-pointer-checks -fno-strict-overflow
               -fno-strict-aliasing -D_GLIBCXX_ASSERTIONS -U_FORTIFY_SOURCE $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=3>)
-  if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i.86)$")
-    target_compile_options(kovalt_hardened_code INTERFACE -fcf-protection=full)
-  elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
-    target_compile_options(kovalt_hardened_code INTERFACE -mbranch-protection=standard)
-  endif()
-  target_link_options(kovalt_hardened INTERFACE -static-pie -Wl,-z,relro,-z,now,-z,noexecstack,-z,separate-code)
-  # Without it the start of a program that can stand anywhere takes as long again.
-  check_linker_flag(CXX -Wl,-z,pack-relative-relocs KOVALT_PACKED_RELOCATIONS)
+  # Each processor has at most one of them.
+  foreach(flag -fcf-protection=full -mbranch-protection=standard)
+    check_cxx_compiler_flag(${flag} KOVALT_HAS${flag})
+    if(KOVALT_HAS${flag})
+      target_compile_options(kovalt_hardened_code INTERFACE ${flag})
+    endif()
+  endforeach()
+  target_link_options(kovalt_hardened INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack,-z,separate-code)
+  # Not every C library brings what starts a static program that can stand anywhere.
+  check_linker_flag(CXX -static-pie KOVALT_STATIC_PIE)
+  target_link_options(kovalt_hardened INTERFACE $<IF:$<BOOL:${KOVALT_STATIC_PIE}>,-static-pie,-static;-no-pie>)
+  # Unpacked, its relocations take as long again as the rest of the start. Not every linker packs them.
+  set(CMAKE_REQUIRED_LINK_OPTIONS -static-pie -Wl,-z,pack-relative-relocs)
+  check_cxx_source_compiles("int main() {}" KOVALT_PACKED_RELOCATIONS FAIL_REGEX ignored)
+  unset(CMAKE_REQUIRED_LINK_OPTIONS)
   if(KOVALT_PACKED_RELOCATIONS)
     target_link_options(kovalt_hardened INTERFACE -Wl,-z,pack-relative-relocs)
   endif()

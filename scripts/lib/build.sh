@@ -4,7 +4,7 @@
 # What a build needs.
 build_packages=(cmake ninja-build g++ libc6-dev rapidjson-dev)
 # What the packages need besides.
-package_packages=(dpkg-dev scdoc)
+package_packages=(dpkg-dev rpm scdoc)
 # What the tests need besides.
 test_packages=(bash-completion clang-format dpkg-dev fakeroot fish gnuplot-nox jq libgtest-dev man-db mandoc python3 scdoc
   strace tmux valgrind zsh)

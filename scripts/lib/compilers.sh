@@ -54,12 +54,12 @@ build_with() {
 }
 
 prove_compilers() {
-  local compiler compilers status=0
+  local compiler compilers failures=0
   mapfile -t compilers < <(apt-cache search --names-only '^(g\+\+|clang)-[0-9]+$' | cut -d ' ' -f 1 | sort --version-sort)
   require_packages "${compilers[@]}" googletest libbenchmark-dev
   for compiler in "${compilers[@]}"; do
-    build_with "$compiler" libstdc++ || status=1
-    build_with "$compiler" "$(libcxx_of "$compiler")" || status=1
+    attempt build_with "$compiler" libstdc++
+    attempt build_with "$compiler" "$(libcxx_of "$compiler")"
   done
-  return "$status"
+  ((failures == 0))
 }
