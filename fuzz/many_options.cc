@@ -4,7 +4,6 @@
 // In all of it <N%M:text> stands for N texts with a comma or line end between them, in which "#" is the number of the
 // text, modulo M: the sizes at which look-ups change their method are out of reach of what a fuzzer writes.
 
-#include <sys/mman.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -15,6 +14,7 @@
 
 #include "app/parse_arguments.h"
 #include "app/run.h"
+#include "fuzz/caught_stream.h"
 #include "fuzz/input.h"
 #include "fuzz/plain_call.h"
 #include "fuzz/property.h"
@@ -49,33 +49,6 @@ std::string expanded(std::string text, const std::string& separator) {
   }
   return all;
 }
-
-/// One standard stream of the tool, caught in memory.
-class CaughtStream {
- public:
-  explicit CaughtStream(int descriptor)
-      : descriptor_(descriptor), original_(dup(descriptor)), caught_(memfd_create("stream", 0)) {
-    expect(dup2(caught_, descriptor_) >= 0, "a stream can be caught");
-  }
-  CaughtStream(const CaughtStream&) = delete;
-  CaughtStream& operator=(const CaughtStream&) = delete;
-  ~CaughtStream() {
-    dup2(original_, descriptor_);
-    close(original_);
-    close(caught_);
-  }
-
-  [[nodiscard]] std::string text() const {
-    std::string bytes(static_cast<std::size_t>(lseek(caught_, 0, SEEK_END)), '\0');
-    expect(pread(caught_, bytes.data(), bytes.size(), 0) == static_cast<ssize_t>(bytes.size()), "all is read back");
-    return bytes;
-  }
-
- private:
-  int descriptor_;
-  int original_;
-  int caught_;
-};
 
 std::optional<End> endOf(const ToolContext& context) {
   try {

@@ -75,6 +75,9 @@ class ProjectingHandler {
   /// Named by the reader, but never called.
   static bool RawNumber(const char* /*text*/, rapidjson::SizeType /*length*/, bool /*copy*/) { return false; }
 
+  /// Whether everything that comes next is passed over, until what is open ends.
+  [[nodiscard]] bool isPassing() const { return mode_ == Mode::passing; }
+
   /// Whether the text of the string that comes next is looked at.
   [[nodiscard]] bool takesText(bool isName) const {
     return mode_ == Mode::whole || (mode_ == Mode::choosing && (isName || (next_ && projection_.keepsScalar(*next_))));

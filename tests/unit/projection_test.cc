@@ -134,6 +134,38 @@ TEST_F(ProjectionTest, ChecksWhatItPassesOver) {
   EXPECT_EQ(kept(R"({"x":"a \u0041 \ud83d\ude00 \" \\ end","\u0061":1})", {"a"}), R"({"a":1})");
 }
 
+TEST_F(ProjectionTest, PassesOverJustWhatAWholeLoadTakesWhereverAPieceEnds) {
+  Projection whole;
+  whole.addWhole(Projection::kRoot);
+  const std::string digits(310, '9');
+  const std::vector<std::string> texts = {"[0,-0,10,1.5,-0.25,1e5,-1E-5,1.5e+3]",
+                                          "[01]",
+                                          "[-]",
+                                          "[-a]",
+                                          "[1.]",
+                                          "[.5]",
+                                          "[1.5.5]",
+                                          "[1e]",
+                                          "[1.e5]",
+                                          "[1x]",
+                                          "[" + digits + "]",
+                                          "[0." + digits + "]",
+                                          "[1.7976931348623157e308]",
+                                          "[1.8e308]",
+                                          R"(["a\"b\\","\u0041","c"])",
+                                          R"(["\x"])",
+                                          R"(["\ud800"])",
+                                          "[\"a",
+                                          "[\"\n\"]",
+                                          "[12"};
+  for (const std::string& text : texts) {
+    for (std::size_t inside = 0; inside <= text.size(); ++inside) {
+      const std::string content = std::string(8192 - inside, ' ') + text;
+      EXPECT_EQ(kept(content, {"a"}) == "(refused)", kept(content, whole) == "(refused)") << text << inside;
+    }
+  }
+}
+
 TEST(Projection, KnowsAFileThatIsMissing) {
   Document document;
   const Printed printed = capture([&] { EXPECT_FALSE(loadProjected("/none", {}, document)); });

@@ -14,8 +14,13 @@ namespace kovalt {
 
 /// Whether a JSON text may have `character` between two tokens.
 inline bool isBlank(char character) {
-  return character == ' ' || character == '\n' || character == '\r' || character == '\t';
+  // Most characters are above all blanks.
+  return static_cast<unsigned char>(character) <= ' ' &&
+         (character == ' ' || character == '\n' || character == '\r' || character == '\t');
 }
+
+/// Whether `character` is a decimal digit.
+inline bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
 /// Whether `character` stands for itself in a JSON string.
 inline bool isPlain(char character) {

@@ -94,6 +94,21 @@ class InputStream {
     return *end == '"' ? std::optional(std::string_view(next_, static_cast<std::size_t>(end - next_))) : std::nullopt;
   }
 
+  /// How long the number is that comes next, without the character after it; 0 if only the reader can tell, because it
+  /// is none, has an exponent, is very long or goes on after the buffer.
+  [[nodiscard]] std::size_t peekNumber() const {
+    const char* const begin = next_ + (*next_ == '-' ? 1 : 0);
+    const char* end = *begin == '0' ? begin + 1 : endOfDigits(begin);
+    bool isWhole = end != begin;
+    if (*end == '.') {
+      const char* const fraction = end + 1;
+      end = endOfDigits(fraction);
+      isWhole &= end != fraction;
+    }
+    const auto size = static_cast<std::size_t>(end - next_);
+    return isWhole && *end != '\0' && *end != 'e' && *end != 'E' && size < kLongNumber ? size : 0;
+  }
+
   /// Takes `count` characters, which the buffer must hold.
   void skip(std::size_t count) {
     next_ += count;
@@ -106,6 +121,16 @@ class InputStream {
   static void Put(char /*character*/) {}
 
  private:
+  /// No number with fewer characters and without an exponent is too large for a double.
+  static constexpr std::size_t kLongNumber = 300;
+
+  static const char* endOfDigits(const char* text) {
+    while (isDigit(*text)) {
+      ++text;
+    }
+    return text;
+  }
+
   void settle() {
     if (*next_ == '\0') {
       next_ = buffer_->settle(next_);

@@ -13,7 +13,9 @@ void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseString<kPars
     kovalt::InputStream& stream, kovalt::ProjectingHandler& handler, bool isKey) {
   stream.Take();
   if (const std::optional<std::string_view> text = stream.peekString()) {
-    handler.takeText(*text, isKey);
+    if (!handler.isPassing()) {
+      handler.takeText(*text, isKey);
+    }
     stream.skip(text->size() + 1);
     return;
   }
@@ -29,6 +31,18 @@ void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseString<kPars
   RAPIDJSON_PARSE_ERROR_EARLY_RETURN_VOID;
   const std::size_t length = text.Length() - 1;
   handler.takeText({text.Pop(), length}, isKey);
+}
+
+template <>
+template <>
+void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseNumber<kParseDefaultFlags>(
+    kovalt::InputStream& stream, kovalt::ProjectingHandler& handler) {
+  if (const std::size_t length = handler.isPassing() ? stream.peekNumber() : 0) {
+    stream.skip(length);
+    return;
+  }
+  // The flag means nothing to this step, but names the one of RapidJSON.
+  ParseNumber<kParseStopWhenDoneFlag>(stream, handler);
 }
 
 }  // namespace rapidjson

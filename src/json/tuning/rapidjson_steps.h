@@ -84,6 +84,12 @@ template <>
 void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseString<kParseDefaultFlags>(
     kovalt::InputStream& stream, kovalt::ProjectingHandler& handler, bool isKey);
 
+/// How the reader takes a number for a load: without its value, where it is passed over and surely is one of a double.
+template <>
+template <>
+void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseNumber<kParseDefaultFlags>(
+    kovalt::InputStream& stream, kovalt::ProjectingHandler& handler);
+
 /// How the pretty writer indents.
 template <>
 inline void PutN(kovalt::OutputStream& stream, char c, std::size_t n) {
