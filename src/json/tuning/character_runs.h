@@ -14,9 +14,7 @@ namespace kovalt {
 
 /// Whether a JSON text may have `character` between two tokens.
 inline bool isBlank(char character) {
-  // Most characters are above all blanks.
-  return static_cast<unsigned char>(character) <= ' ' &&
-         (character == ' ' || character == '\n' || character == '\r' || character == '\t');
+  return character == ' ' || character == '\n' || character == '\r' || character == '\t';
 }
 
 /// Whether `character` is a decimal digit.
