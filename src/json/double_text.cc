@@ -13,8 +13,6 @@
 namespace kovalt {
 namespace {
 
-using rapidjson::internal::DiyFp;
-
 /// All powers of ten that a double holds exactly.
 constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                                    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
@@ -55,37 +53,10 @@ bool findFewDigits(double value, Decimal& decimal) {
   return true;
 }
 
-/// Finds `decimal` as RapidJSON does, whose arithmetic of 64 bits misses a shorter one that lies at the very end of
-/// what reads back to `value`. Returns whether there is surely none.
-bool findByRapidJson(double value, Decimal& decimal) {
-  const DiyFp exact(value);
-  DiyFp lower;
-  DiyFp upper;
-  exact.NormalizedBoundaries(&lower, &upper);
-  int power = 0;
-  const DiyFp scale = rapidjson::internal::GetCachedPower(upper.e, &power);
-  lower = lower * scale;
-  upper = upper * scale;
-  // The products are right to about one unit in their last place: all between these two reads back.
-  const DiyFp last(upper.f - 1, upper.e);
-  const std::uint64_t width = last.f - (lower.f + 1);
-  decimal.exponent = power;
-  rapidjson::internal::DigitGen(exact.Normalize() * scale, last, width, decimal.digits, &decimal.length,
-                                &decimal.exponent);
-  const int places = power - decimal.exponent;
-  if (places < 1) {
-    return false;
-  }
-  // With one place fewer: how far below `last` there is a number, and how far above.
-  const auto step = static_cast<std::uint64_t>(kPowersOfTen[places - 1]);
-  const std::uint64_t one = std::uint64_t{1} << -last.e;
-  const std::uint64_t below = (last.f * step) & (one - 1);
-  constexpr std::uint64_t kDoubt = 4;
-  return below > (width + kDoubt) * step && one - below > kDoubt * step;
-}
-
-/// Takes the digits of the standard library where they are fewer.
-void shorten(double value, Decimal& decimal) {
+/// Finds `decimal` as RapidJSON does, whose arithmetic of 64 bits misses a shorter one now and then; then takes the
+/// digits of the standard library, which misses none.
+void findDigits(double value, Decimal& decimal) {
+  rapidjson::internal::Grisu2(value, decimal.digits, &decimal.length, &decimal.exponent);
   char text[32] = {};
   std::to_chars(std::begin(text), std::end(text), value, std::chars_format::scientific);
   const char* mark = std::find(std::begin(text), std::end(text), 'e');
@@ -109,8 +80,8 @@ char* writeDouble(double value, char* text) {
   Decimal decimal{text, 1, 0};
   if (value == 0) {
     *text = '0';
-  } else if (!findFewDigits(value, decimal) && !findByRapidJson(value, decimal)) {
-    shorten(value, decimal);
+  } else if (!findFewDigits(value, decimal)) {
+    findDigits(value, decimal);
   }
   return rapidjson::internal::Prettify(text, decimal.length, decimal.exponent, 324);
 }
