@@ -1,5 +1,6 @@
 #include "json/member_finder.h"
 
+#include <cstddef>
 #include <functional>
 
 #include "json/text_value.h"
@@ -58,7 +59,7 @@ bool MemberFinder::remove(Value& object, std::string_view name) {
       known->second.places.emplace(lastHash, position);
     }
   }
-  object.RemoveMember(object.MemberBegin() + position);
+  object.RemoveMember(object.MemberBegin() + static_cast<std::ptrdiff_t>(position));
   return true;
 }
 
