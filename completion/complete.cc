@@ -7,11 +7,15 @@
 #include "app/option_table.h"
 #include "completion/command_line.h"
 #include "completion/key_path_candidates.h"
+#include "completion/key_path_projection.h"
 #include "completion/starts_with.h"
+#include "json/key_path.h"
 #include "json/load_document.h"
 
 namespace kovalt {
 namespace {
+
+using Values = std::vector<const Value*>;
 
 std::vector<std::string> optionLines(std::string_view typed, bool withFileOptions) {
   std::vector<std::string> lines;
@@ -42,16 +46,25 @@ std::vector<std::string> booleanLines(std::string_view typed) {
 std::vector<std::string> keyPathLines(const CursorPlace& place, std::string_view typed) {
   const std::string path(place.filePath);
   std::error_code unknown;
-  Document document;
-  if (!std::filesystem::is_regular_file(path, unknown) || !loadDocument(path, document, false)) {
+  if (!std::filesystem::is_regular_file(path, unknown)) {
     return {};
   }
-  if (place.argument == ArgumentKind::field) {
-    return keyPathCandidates(arrayElements(document, place.keyPath), typed, {});
+  const bool isField = place.argument == ArgumentKind::field;
+  KeyPathUse use;
+  Projection projection;
+  Projection::Place from = Projection::kRoot;
+  if (isField) {
+    from = projection.addElements(projection.addWalk(KeyPath(place.keyPath), from));
+  } else {
+    use.selects = place.option->effect != OptionEffect::removal;
+    use.namesArray = place.option->further.kind == ArgumentKind::field;
   }
-  const bool selects = place.option->effect != OptionEffect::removal;
-  const bool namesArray = place.option->further.kind == ArgumentKind::field;
-  return keyPathCandidates({&document}, typed, {selects, namesArray});
+  addCandidates(projection, from, typed, use);
+  Document document;
+  if (!loadProjected(path, projection, document)) {
+    return {};
+  }
+  return keyPathCandidates(isField ? arrayElements(document, place.keyPath) : Values{&document}, typed, use);
 }
 
 std::vector<std::string> argumentLines(const CursorPlace& place, std::string_view typed) {

@@ -46,7 +46,7 @@ bool ProjectingHandler::chooseArray() {
 
 bool ProjectingHandler::chooseMember(std::string_view name) {
   next_ = projection_.member(open_.back().place, name);
-  if (next_ && keptIn_[*next_] == open_.back().number) {
+  if (next_ && keptIn_[*next_] == open_.back().number && !projection_.isOfMany(*next_)) {
     // A second member of the same name.
     next_.reset();
   }

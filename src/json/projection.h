@@ -27,8 +27,21 @@ class Projection {
   /// Adds what the walk of `path` looks at before it comes to its end. Returns that place.
   Place addWalk(const KeyPath& path, Place from);
 
+  /// Adds what one step of a walk looks at. Returns the place that it comes to.
+  Place addStep(std::string_view step, Place from);
+
+  /// Adds the member `name` of an object at `object`. Returns its place.
+  Place addMember(Place object, std::string_view name);
+
+  /// Adds all members of an object at `object` whose names begin with `start`, also those with the same name. They are
+  /// at one place, but for those that are added by name. To be called once for an object. Returns that place.
+  Place addMembers(Place object, std::string_view start);
+
   /// Adds the elements of an array at `array`. Returns their place.
   Place addElements(Place array);
+
+  /// Keeps a value at `place` if it holds no others.
+  void addScalar(Place place) { places_[place].scalar = true; }
 
   /// Keeps all of a value at `place`.
   void addWhole(Place place) { places_[place].whole = true; }
@@ -43,10 +56,15 @@ class Projection {
   [[nodiscard]] bool keepsScalar(Place place) const { return places_[place].scalar || places_[place].whole; }
 
   /// Whether any member of an object at `place` is kept.
-  [[nodiscard]] bool keepsMembers(Place place) const { return !places_[place].members.empty(); }
+  [[nodiscard]] bool keepsMembers(Place place) const {
+    return !places_[place].members.empty() || places_[place].manyMembers;
+  }
 
   /// The place of the member `name` of an object at `object`; none if it is not kept.
   [[nodiscard]] std::optional<Place> member(Place object, std::string_view name) const;
+
+  /// Whether `place` is that of many members of one object.
+  [[nodiscard]] bool isOfMany(Place place) const { return places_[place].ofMany; }
 
   /// The place of the elements of an array at `array`; none if they are not kept.
   [[nodiscard]] std::optional<Place> elements(Place array) const;
@@ -55,12 +73,14 @@ class Projection {
   struct Kept {
     bool whole = false;
     bool scalar = false;
+    bool ofMany = false;
     std::optional<Place> elements;
     std::map<std::string, Place, std::less<>> members;
+    std::optional<Place> manyMembers;
+    std::string manyMembersStart;  ///< What their names begin with.
   };
 
   Place addPlace();
-  Place addMember(Place object, std::string_view name);
 
   std::vector<Kept> places_ = std::vector<Kept>(1);
 };
