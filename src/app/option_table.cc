@@ -118,9 +118,9 @@ constexpr Option kOptions[] = {
 
 }  // namespace
 
-const Option* OptionTable::begin() const { return std::begin(kOptions); }
+const Option* OptionTable::begin() { return std::begin(kOptions); }
 
-const Option* OptionTable::end() const { return std::end(kOptions); }
+const Option* OptionTable::end() { return std::end(kOptions); }
 
 const Option* findOption(std::string_view form) {
   for (const Option& option : OptionTable()) {

@@ -59,8 +59,8 @@ struct Option {
 
 /// The whole table, a range of rows.
 struct OptionTable {
-  [[nodiscard]] const Option* begin() const;
-  [[nodiscard]] const Option* end() const;
+  static const Option* begin();
+  static const Option* end();
 };
 
 /// The row whose long or short form is exactly `form`, or nullptr.

@@ -33,6 +33,8 @@ bool findFewDigits(double value, Decimal& decimal) {
   // 1233 / 4096 is the logarithm of 2: as a whole number the value gets 15 digits, or 16 that begin with a 1.
   int places = 14 - ((rapidjson::internal::Double(value).Exponent() * 1233) >> 12);
   const double power = kPowersOfTen[places];
+  // Where this misses the nearest whole number, the division below tells.
+  // NOLINTNEXTLINE(bugprone-incorrect-roundings)
   auto whole = static_cast<std::uint64_t>(value * power + 0.5);
   // Both sides of the division are exact, so a reader gets the same quotient. Whole numbers as small as this are too
   // far apart for another one to give it too.
@@ -66,7 +68,7 @@ void findDigits(double value, Decimal& decimal) {
     std::copy_n(text + 2, length - 1, decimal.digits + 1);
     decimal.digits[0] = text[0];
     decimal.length = length;
-    decimal.exponent = std::atoi(mark + 1) - length + 1;
+    decimal.exponent = static_cast<int>(std::strtol(mark + 1, nullptr, 10)) - length + 1;
   }
 }
 

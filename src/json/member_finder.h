@@ -29,7 +29,7 @@ class MemberFinder {
   void append(Value& object, Value& name, Value& value, Allocator& allocator);
 
   /// Removes the first member of that name from `object`, whose last member takes its place. Returns whether there was
-  /// one. An `object` that is none ends the process through the library's assertion.
+  /// one. An `object` that is none ends the process through RapidJSON's assertion.
   bool remove(Value& object, std::string_view name);
 
  private:

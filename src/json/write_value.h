@@ -1,6 +1,6 @@
 #pragma once
 
-// The walk that hands a value to one of the library's writers.
+// The walk that hands a value to one of RapidJSON's writers.
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/writer.h>
@@ -110,7 +110,7 @@ void writeValue(const Value& root, Writer& writer) {
   }
 }
 
-/// Writes the text of `value` to a stream of the library and flushes it.
+/// Writes the text of `value` to a stream of RapidJSON's kind and flushes it.
 template <typename Stream>
 void writeText(const Value& value, TextLayout layout, Stream& stream) {
   if (layout == TextLayout::compact) {

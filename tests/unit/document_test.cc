@@ -1,4 +1,4 @@
-// The settings of the JSON library that the program counts on, in every kind of build.
+// The settings of RapidJSON that the program counts on, in every kind of build.
 
 #include "json/document.h"
 

@@ -68,7 +68,7 @@ std::set<std::string> expectedForms() {
   return forms;
 }
 
-TEST(OptionTable, HasTwentyOneRows) { EXPECT_EQ(std::distance(OptionTable().begin(), OptionTable().end()), 21); }
+TEST(OptionTable, HasTwentyOneRows) { EXPECT_EQ(std::distance(OptionTable::begin(), OptionTable::end()), 21); }
 
 TEST(OptionTable, HasNoFormTwice) {
   std::set<std::string_view> forms;

@@ -42,7 +42,6 @@ class InputBuffer {
   std::size_t before_ = 0;     ///< How many bytes of the file stand before the ones held.
   const char* end_ = nullptr;  ///< After the last byte held.
   // Clearing it would take longer than a small file.
-  // cppcheck-suppress uninitMemberVarPrivate
   char bytes_[kSize + CharacterBlock::kSize];
 };
 

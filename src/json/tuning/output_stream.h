@@ -22,6 +22,7 @@ class OutputStream {
   static constexpr std::size_t kShort = 32;
 
   /// `file` must stay open as long as the stream is used.
+  // cppcheck-suppress uninitMemberVar
   explicit OutputStream(std::FILE* file) : file_(file) {}
 
   /// Adds one character.
@@ -106,7 +107,6 @@ class OutputStream {
   std::FILE* file_;
   char* end_ = buffer_;
   // Clearing it would take longer than a small text; only what was put in is written.
-  // cppcheck-suppress uninitMemberVarPrivate
   char buffer_[kPiece + kRoom];
 };
 

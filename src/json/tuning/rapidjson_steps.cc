@@ -10,24 +10,24 @@ namespace rapidjson {
 template <>
 template <>
 void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseString<kParseDefaultFlags>(
-    kovalt::InputStream& stream, kovalt::ProjectingHandler& handler, bool isKey) {
-  stream.Take();
-  if (const std::optional<std::string_view> text = stream.peekString()) {
+    kovalt::InputStream& is, kovalt::ProjectingHandler& handler, bool isKey) {
+  is.Take();
+  if (const std::optional<std::string_view> text = is.peekString()) {
     if (!handler.isPassing()) {
       handler.takeText(*text, isKey);
     }
-    stream.skip(text->size() + 1);
+    is.skip(text->size() + 1);
     return;
   }
   if (!handler.takesText(isKey)) {
     kovalt::PassedText passed;
-    ParseStringToStream<kParseDefaultFlags, UTF8<>, UTF8<>>(stream, passed);
+    ParseStringToStream<kParseDefaultFlags, UTF8<>, UTF8<>>(is, passed);
     RAPIDJSON_PARSE_ERROR_EARLY_RETURN_VOID;
     handler.takeText({}, isKey);
     return;
   }
   StackStream<char> text(stack_);
-  ParseStringToStream<kParseDefaultFlags, UTF8<>, UTF8<>>(stream, text);
+  ParseStringToStream<kParseDefaultFlags, UTF8<>, UTF8<>>(is, text);
   RAPIDJSON_PARSE_ERROR_EARLY_RETURN_VOID;
   const std::size_t length = text.Length() - 1;
   handler.takeText({text.Pop(), length}, isKey);
@@ -36,13 +36,13 @@ void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseString<kPars
 template <>
 template <>
 void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseNumber<kParseDefaultFlags>(
-    kovalt::InputStream& stream, kovalt::ProjectingHandler& handler) {
-  if (const std::size_t length = handler.isPassing() ? stream.peekNumber() : 0) {
-    stream.skip(length);
+    kovalt::InputStream& is, kovalt::ProjectingHandler& handler) {
+  if (const std::size_t length = handler.isPassing() ? is.peekNumber() : 0) {
+    is.skip(length);
     return;
   }
   // The flag means nothing to this step, but names the one of RapidJSON.
-  ParseNumber<kParseStopWhenDoneFlag>(stream, handler);
+  ParseNumber<kParseStopWhenDoneFlag>(is, handler);
 }
 
 }  // namespace rapidjson

@@ -54,8 +54,8 @@ struct StreamTraits<kovalt::InputStream> {
 
 /// How the reader comes to the next token.
 template <>
-inline void SkipWhitespace(kovalt::InputStream& stream) {
-  stream.skipBlanks();
+inline void SkipWhitespace(kovalt::InputStream& is) {
+  is.skipBlanks();
 }
 
 /// The step of the reader that takes those characters of a string which need no look at each. It may leave any of them,
@@ -82,13 +82,13 @@ inline void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanCopyUn
 template <>
 template <>
 void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseString<kParseDefaultFlags>(
-    kovalt::InputStream& stream, kovalt::ProjectingHandler& handler, bool isKey);
+    kovalt::InputStream& is, kovalt::ProjectingHandler& handler, bool isKey);
 
 /// How the reader takes a number for a load: without its value, where it is passed over and surely is one of a double.
 template <>
 template <>
 void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseNumber<kParseDefaultFlags>(
-    kovalt::InputStream& stream, kovalt::ProjectingHandler& handler);
+    kovalt::InputStream& is, kovalt::ProjectingHandler& handler);
 
 /// How the pretty writer indents.
 template <>
