@@ -10,13 +10,15 @@ if(KOVALT_STATIC AND NOT KOVALT_SANITIZE)
     kovalt_hardened_code
     INTERFACE -fPIE -fstack-protector-strong -fstack-clash-protection -fno-delete-null-pointer-checks -fno-strict-overflow
               -fno-strict-aliasing -D_GLIBCXX_ASSERTIONS -U_FORTIFY_SOURCE $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=3>)
-  # Each processor has at most one of them.
+  # Each processor has at most one of them. Clang takes the other one too, with a warning.
+  set(CMAKE_REQUIRED_FLAGS -Werror)
   foreach(flag -fcf-protection=full -mbranch-protection=standard)
     check_cxx_compiler_flag(${flag} KOVALT_HAS${flag})
     if(KOVALT_HAS${flag})
       target_compile_options(kovalt_hardened_code INTERFACE ${flag})
     endif()
   endforeach()
+  unset(CMAKE_REQUIRED_FLAGS)
   target_link_options(kovalt_hardened INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack,-z,separate-code)
   # Not every C library brings what starts a static program that can stand anywhere.
   check_linker_flag(CXX -static-pie KOVALT_STATIC_PIE)
