@@ -18,7 +18,7 @@ using Blocks = testing::Types<WordBlock, Sse2Block>;
 #else
 using Blocks = testing::Types<WordBlock>;
 #endif
-TYPED_TEST_SUITE(CharacterRuns, Blocks);
+TYPED_TEST_SUITE(CharacterRuns, Blocks, );
 
 bool standsForItself(int code) { return code >= 0x20 && code != '"' && code != '\\'; }
 
