@@ -43,7 +43,7 @@ std::vector<std::string> booleanLines(std::string_view typed) {
 }
 
 /// The key paths out of the file of the line. Only a regular file is read: from a pipe the shell would wait for ever.
-std::vector<std::string> keyPathLines(const CursorPlace& place, std::string_view typed) {
+CandidateList keyPathList(const CursorPlace& place, std::string_view typed) {
   const std::string path(place.filePath);
   std::error_code unknown;
   if (!std::filesystem::is_regular_file(path, unknown)) {
@@ -67,16 +67,19 @@ std::vector<std::string> keyPathLines(const CursorPlace& place, std::string_view
   return keyPathCandidates(isField ? arrayElements(document, place.keyPath) : Values{&document}, typed, use);
 }
 
-std::vector<std::string> argumentLines(const CursorPlace& place, std::string_view typed) {
+Completion completeArgument(const CursorPlace& place, std::string_view typed) {
   switch (place.argument) {
     case ArgumentKind::keyPath:
-    case ArgumentKind::field:
-      return keyPathLines(place, typed);
+    case ArgumentKind::field: {
+      const CandidateList list = keyPathList(place, typed);
+      return {false, list.isCut(), list.words()};
+    }
     case ArgumentKind::booleanWord:
-      return booleanLines(typed);
+      return {false, false, booleanLines(typed)};
+    case ArgumentKind::file:
+      return {true, false, {}};
     case ArgumentKind::none:
     case ArgumentKind::value:
-    case ArgumentKind::file:
       break;
   }
   return {};
@@ -87,10 +90,7 @@ std::vector<std::string> argumentLines(const CursorPlace& place, std::string_vie
 Completion complete(const std::vector<std::string>& words, std::size_t cursor) {
   const CursorPlace place = findCursorPlace(words, cursor);
   const std::string_view typed = words[cursor];
-  if (place.argument == ArgumentKind::file) {
-    return {true, {}};
-  }
-  Completion completion{false, argumentLines(place, typed)};
+  Completion completion = completeArgument(place, typed);
   if (place.option == nullptr || (place.inList && completion.lines.empty())) {
     completion.lines = optionLines(typed, !place.fileOptionGiven);
   }

@@ -11,6 +11,7 @@ namespace kovalt {
 /// What can stand at the cursor.
 struct Completion {
   bool takesFile = false;          ///< A file name, which the shell itself knows best how to complete.
+  bool isCut = false;              ///< There are more candidates than these.
   std::vector<std::string> lines;  ///< The candidates; after an option stand a tab and what it does.
 };
 

@@ -1,8 +1,9 @@
 #include "completion/key_path_candidates.h"
 
+#include <string>
 #include <unordered_set>
+#include <utility>
 
-#include "completion/candidate_list.h"
 #include "completion/reachable_steps.h"
 #include "completion/starts_with.h"
 #include "json/find_member.h"
@@ -36,7 +37,7 @@ class StepCollector {
     return candidates_.isCut() && typed_.find('=') == std::string_view::npos;
   }
 
-  [[nodiscard]] std::vector<std::string> candidates() const { return candidates_.words(); }
+  [[nodiscard]] CandidateList candidates() && { return std::move(candidates_); }
 
  private:
   void addMembers(const Value& object) {
@@ -106,7 +107,7 @@ Values follow(const Values& values, std::string_view step, KeyPathUse use) {
 
 }  // namespace
 
-std::vector<std::string> keyPathCandidates(const Values& roots, std::string_view word, KeyPathUse use) {
+CandidateList keyPathCandidates(const Values& roots, std::string_view word, KeyPathUse use) {
   const std::string_view way = word.substr(0, word.rfind(KeyPath::kStepSeparator) + 1);
   const std::string_view typed = word.substr(way.size());
   const KeyPath path(word);
@@ -120,13 +121,13 @@ std::vector<std::string> keyPathCandidates(const Values& roots, std::string_view
     steps.addFrom(*value, Selections::whole);
   }
   if (!steps.isBetterWithKeys()) {
-    return steps.candidates();
+    return std::move(steps).candidates();
   }
   StepCollector keySteps(way, typed, use);
   for (const Value* value : values) {
     keySteps.addFrom(*value, Selections::keys);
   }
-  return keySteps.candidates();
+  return std::move(keySteps).candidates();
 }
 
 Values arrayElements(const Value& root, std::string_view keyPath) {

@@ -2,10 +2,10 @@
 
 // The key paths that a document has to offer.
 
-#include <string>
 #include <string_view>
 #include <vector>
 
+#include "completion/candidate_list.h"
 #include "completion/reachable_steps.h"
 #include "json/document.h"
 
@@ -17,8 +17,7 @@ namespace kovalt {
 ///
 /// Not offered is what no key path reaches, names and values that hold a ".", an object after one that the selection
 /// stops at, a second member of the same name, and what cannot be shown on a line: empty names and control characters.
-std::vector<std::string> keyPathCandidates(const std::vector<const Value*>& roots, std::string_view word,
-                                           KeyPathUse use);
+CandidateList keyPathCandidates(const std::vector<const Value*>& roots, std::string_view word, KeyPathUse use);
 
 /// The elements of the array that `keyPath` names; none where it names no array.
 std::vector<const Value*> arrayElements(const Value& root, std::string_view keyPath);

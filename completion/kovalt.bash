@@ -6,12 +6,14 @@ _kovalt_helper=${BASH_SOURCE[0]%/*}/@KOVALT_COMPLETE@
 [[ $_kovalt_helper == /* ]] || _kovalt_helper=$PWD/$_kovalt_helper
 
 # Sets `value` to the text that the word $1 stands for, and `quote` to the quote that it leaves open. Nothing is run for
-# it: of all expansions only the home folder and plain variables are known.
+# it: of all expansions only a home folder and plain variables are known.
 _kovalt_unquote() {
   local rest=$1 char
   value='' quote=''
-  if [[ $rest == \~ || $rest == \~/* ]]; then
-    value=$HOME rest=${rest:1}
+  if [[ $rest =~ ^(\~([a-zA-Z_][a-zA-Z_0-9.-]*)?)(/|$) ]]; then
+    # Nothing but a user's name is evaluated; it stays as it is where there is no such user.
+    rest=${rest:${#BASH_REMATCH[1]}}
+    eval "value=${BASH_REMATCH[1]}"
   fi
   while [[ $rest ]]; do
     char=${rest:0:1} rest=${rest:1}
@@ -100,5 +102,12 @@ _kovalt() {
   if ((${#COMPREPLY[@]} == 1)); then
     # The line editor forgets to close a quote after a name that ends in one.
     COMPREPLY[0]+=$quote
+  elif [[ $kind == 'words cut' && $COMP_TYPE == @(33|63|64) ]]; then
+    # Only where the candidates are listed: nothing is inserted then but what all of them begin with.
+    local start=${COMPREPLY[0]}
+    for word in "${COMPREPLY[@]}"; do
+      while [[ $word != "$start"* ]]; do start=${start%?}; done
+    done
+    COMPREPLY+=("$start (the list is cut)")
   fi
 } && complete -F _kovalt Kovalt kovalt

@@ -3,19 +3,21 @@
 # The helper that knows the candidates, found from the place of this script.
 set -g __kovalt_helper (status dirname)/@KOVALT_COMPLETE@
 
-# Prints the text that each word of the line stands for. Nothing is run for it: of all expansions only the home folder
-# and a variable at the start are known.
-function __kovalt_expand
-    for word in $argv
-        set -l parts (string match --regex '^\$(\w+)(.*)$' -- $word)
-        if string match --quiet --regex '^~(/|$)' -- $word
-            string replace '~' $HOME -- $word
-        else if set --query parts[2]; and set --query $parts[2]
-            set -l name $parts[2]
-            string join -- '' "$$name" $parts[3]
-        else
-            printf '%s\n' $word
-        end
+# Prints the text that a word of the line stands for, which is given as it is typed and without quotes. Nothing is run for
+# it: of all expansions only a home folder and a variable at the start are known.
+function __kovalt_expand --argument-names raw word
+    set -l parts (string match --regex '^\$(\w+)(.*)$' -- $word)
+    set -l home (string match --regex '^~(?:[a-zA-Z_][a-zA-Z_0-9.-]*)?(?=/|$)' -- $raw)
+    if set --query home[1]
+        # Nothing but a user's name is evaluated; it stays as it is where there is no such user.
+        set -l folder
+        eval "set folder $home"
+        string replace -- $home "$folder" $word
+    else if set --query parts[2]; and set --query $parts[2]
+        set -l name $parts[2]
+        string join -- '' "$$name" $parts[3]
+    else
+        printf '%s\n' $word
     end
 end
 
@@ -26,10 +28,25 @@ function __kovalt_complete
     # The word at the cursor may leave a quote open.
     set -l typed (string unescape -- $token; or string unescape -- $token\"; or string unescape -- $token\')
 
-    set -l candidates ($__kovalt_helper (count $before) (__kovalt_expand $before "$typed") 2>/dev/null)
+    # The words as they are typed, which only tell a quoted "~" from a home folder.
+    set -l raws (string match --all --regex -- \
+        '(?:[^\s\'"\\\\]|\\\\(?:.|$)|\'(?:[^\'\\\\]|\\\\.)*(?:\'|$)|"(?:[^"\\\\]|\\\\.)*(?:"|$))+' \
+        (commandline --current-process --cut-at-cursor))
+    if test (count $raws) -lt (count $before) -o (count $raws) -gt (math (count $before) + 1)
+        set raws $before
+    end
+    set -l line
+    for i in (seq (count $before))
+        set --append line (__kovalt_expand "$raws[$i]" "$before[$i]" | string collect --allow-empty)
+    end
+    set --append line (__kovalt_expand "$token" "$typed" | string collect --allow-empty)
+
+    set -l candidates ($__kovalt_helper (count $before) $line 2>/dev/null)
     if test "$candidates[1]" = files
         # A command that is unknown is completed with file names.
         complete --do-complete "__kovalt_files $token"
+    else if test "$candidates[1]" = 'words cut'
+        string join \n -- $candidates[2..]\t'the list is cut'
     else
         string join \n -- $candidates[2..]
     end

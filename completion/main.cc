@@ -1,7 +1,8 @@
 // Completes a command line for the completion functions of the shells: takes the position of the word at the cursor,
 // counted from 0, and the words of the line, without the shell's quoting. Prints "files" where file names belong, and
-// "words" and then the candidates, one a line, otherwise. A shell in the middle of a command line is no place for
-// errors: nothing is ever printed on standard error, and the exit status is always 0.
+// "words" and then the candidates, one a line, otherwise; "words cut" where there are more of them. A shell in the
+// middle of a command line is no place for errors: nothing is ever printed on standard error, and the exit status is
+// always 0.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -18,7 +19,7 @@
 namespace {
 
 void print(const kovalt::Completion& completion) {
-  std::string text = completion.takesFile ? "files\n" : "words\n";
+  std::string text = completion.takesFile ? "files\n" : completion.isCut ? "words cut\n" : "words\n";
   for (const std::string& line : completion.lines) {
     text.append(line) += '\n';
   }

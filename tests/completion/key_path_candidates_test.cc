@@ -120,7 +120,7 @@ class RemovalCandidates : public testing::TestWithParam<CandidateRow> {};
 
 void checkCandidates(const CandidateRow& row) {
   const Document document = parsed(row.json);
-  EXPECT_EQ(keyPathCandidates({&document}, row.word, row.use), row.expected);
+  EXPECT_EQ(keyPathCandidates({&document}, row.word, row.use).words(), row.expected);
 }
 
 TEST_P(KeyPathCandidates, AreTheNextSteps) { checkCandidates(GetParam()); }
@@ -129,7 +129,7 @@ TEST_P(RemovalCandidates, AreTheNextSteps) { checkCandidates(GetParam()); }
 
 TEST_P(KeyPathCandidates, AreFoundByTheWalk) {
   const Document document = parsed(GetParam().json);
-  for (std::string candidate : keyPathCandidates({&document}, GetParam().word, kRead)) {
+  for (std::string candidate : keyPathCandidates({&document}, GetParam().word, kRead).words()) {
     if (candidate.back() == '.') {
       candidate.pop_back();
     }
@@ -156,14 +156,22 @@ Document longArray() {
 
 TEST(LongArray, OffersKeysFirst) {
   const Document document = longArray();
-  EXPECT_EQ(keyPathCandidates({&document}, "", kRead), (std::vector<std::string>{"id=", "name="}));
-  EXPECT_EQ(keyPathCandidates({&document}, "n", kRead), std::vector<std::string>{"name="});
+  EXPECT_EQ(keyPathCandidates({&document}, "", kRead).words(), (std::vector<std::string>{"id=", "name="}));
+  EXPECT_EQ(keyPathCandidates({&document}, "n", kRead).words(), std::vector<std::string>{"name="});
 }
 
 TEST(LongArray, OffersValuesOfAKey) {
   const Document document = longArray();
-  EXPECT_EQ(keyPathCandidates({&document}, "id=", kRead).size(), CandidateList::kLongest + 1);
-  EXPECT_EQ(keyPathCandidates({&document}, "name=n50", kRead), (std::vector<std::string>{"name=n50.", "name=n500."}));
+  EXPECT_EQ(keyPathCandidates({&document}, "id=", kRead).words().size(), CandidateList::kLongest + 1);
+  EXPECT_EQ(keyPathCandidates({&document}, "name=n50", kRead).words(),
+            (std::vector<std::string>{"name=n50.", "name=n500."}));
+}
+
+TEST(LongArray, TellsOfACutList) {
+  const Document document = longArray();
+  EXPECT_TRUE(keyPathCandidates({&document}, "id=", kRead).isCut());
+  EXPECT_FALSE(keyPathCandidates({&document}, "", kRead).isCut());
+  EXPECT_FALSE(keyPathCandidates({&document}, "name=n50", kRead).isCut());
 }
 
 TEST(ArrayElements, AreThoseOfTheArray) {
@@ -177,8 +185,8 @@ TEST(ArrayElements, AreThoseOfTheArray) {
 TEST(ArrayElements, OfferTheFieldsOfAnyOfThem) {
   const Document document = parsed(R"([{"id":1,"at":{"host":"h"}},{"id":2,"port":3},{"at":{"zone":"z"}}])");
   const std::vector<const Value*> elements = arrayElements(document, "");
-  EXPECT_EQ(keyPathCandidates(elements, "", kRead), (std::vector<std::string>{"id", "at.", "port"}));
-  EXPECT_EQ(keyPathCandidates(elements, "at.", kRead), (std::vector<std::string>{"at.host", "at.zone"}));
+  EXPECT_EQ(keyPathCandidates(elements, "", kRead).words(), (std::vector<std::string>{"id", "at.", "port"}));
+  EXPECT_EQ(keyPathCandidates(elements, "at.", kRead).words(), (std::vector<std::string>{"at.host", "at.zone"}));
 }
 
 }  // namespace

@@ -75,7 +75,7 @@ TEST_F(KeyPathProjection, KeepsOfArraysWhatSelects) {
 TEST_F(KeyPathProjection, KeepsOfAMemberThatSelectedWhereItGoesOn) {
   const Word word = {"a=7."};
   const Document document = loadFor(R"([{"a":[{"b":1},7],"c":2}])", word);
-  EXPECT_EQ(keyPathCandidates({&document}, word.text, word.use), (std::vector<std::string>{"a=7.a.", "a=7.c"}));
+  EXPECT_EQ(keyPathCandidates({&document}, word.text, word.use).words(), (std::vector<std::string>{"a=7.a.", "a=7.c"}));
 }
 
 /// Makes documents full of duplicates and wrong kinds, and words that meet them.
@@ -144,7 +144,9 @@ TEST_F(KeyPathProjection, ChangesNoCandidates) {
         const auto candidates = [&](const Document& document) {
           const bool isField = word.array != nullptr;
           return keyPathCandidates(
-              isField ? arrayElements(document, *word.array) : std::vector<const Value*>{&document}, text, word.use);
+                     isField ? arrayElements(document, *word.array) : std::vector<const Value*>{&document}, text,
+                     word.use)
+              .words();
         };
         const std::vector<std::string> expected = candidates(whole);
         offered += expected.size();
