@@ -45,7 +45,7 @@ int main(int argumentCount, char* arguments[]) {
     return EXIT_FAILURE;
   }
   bool allRan = true;
-  for (int run = std::atoi(arguments[2]); run > 0 && allRan; --run) {
+  for (int run = static_cast<int>(std::strtol(arguments[2], nullptr, 10)); run > 0 && allRan; --run) {
     allRan = runOnce(arguments + 3, report);
   }
   return std::fclose(report) == 0 && allRan ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -30,7 +30,7 @@ bool findFewDigits(double value, Decimal& decimal) {
   if (value < 1e-7 || value >= 1e15) {
     return false;
   }
-  // 1233 / 4096 is the logarithm of 2: as a whole number the value gets 15 digits, or 16 that begin with a 1.
+  // 1233 / 4096 is the decimal logarithm of 2: as a whole number the value gets 15 digits, or 16 that begin with a 1.
   int places = 14 - ((rapidjson::internal::Double(value).Exponent() * 1233) >> 12);
   const double power = kPowersOfTen[places];
   // Where this misses the nearest whole number, the division below tells.

@@ -14,8 +14,8 @@
 namespace kovalt {
 
 /// Tells for each place of a document how much of a value there is kept. Of members with the same name the first is
-/// meant. Of a value that is not kept its kind is, which is what every walk looks at: an array or an object stands
-/// there without its content, and null for all others. Members that are not named are not kept at all.
+/// meant. Of a value that is not kept, its kind is, which every walk looks at: an array or an object stands there
+/// without its content, and null for all others. Members that are not named are not kept at all.
 class Projection {
  public:
   /// A place that walks come to. All elements of an array are at the same one.

@@ -117,7 +117,7 @@ std::size_t copyPlain(const char* from, std::size_t size, char* to) {
       return copied + plain;
     }
   }
-  // The rest is read in smaller parts: nothing after it may be, and what was just put in is slow to read again as more.
+  // The rest is read in smaller parts: nothing after it may be read, and a wide read of what was just put in is slow.
   std::uint64_t word = 0;
   if (size - copied >= sizeof(word)) {
     std::memcpy(&word, from + copied, sizeof(word));

@@ -21,8 +21,8 @@ class InputBuffer {
   /// The first byte.
   [[nodiscard]] const char* begin() const { return bytes_; }
 
-  /// The place of the byte that stands at `place`, a NUL byte; after the last byte held, reads the next ones and
-  /// returns the first of them. At the end of the file, that is one of the NUL bytes after the last byte.
+  /// To be called at a NUL byte. Returns `place` if the byte is one of the file; after the last byte held, reads the
+  /// next ones and returns the first of them. At the end of the file, that is one of the NUL bytes after its last byte.
   const char* settle(const char* place);
 
   /// Whether nothing is left of the file at `place`, to which `settle` came.
