@@ -54,7 +54,10 @@ TYPED_TEST(CharacterRuns, GoOnOverEachCharacterOfTheirKindWhateverStandsBesideIt
     for (const int other : {code, code ^ 1}) {
       std::string texts = pair + pair + pair + pair;
       texts[5] = static_cast<char>(other);
+      // Blocks are looked at after the first characters only.
       const std::string text = inBlocks<TypeParam>(texts);
+      const std::string afterText = inBlocks<TypeParam>(std::string(kShortText, 'a') + texts);
+      const std::string afterBlanks = inBlocks<TypeParam>(std::string(kShortBlanks, ' ') + texts);
       std::size_t plain = 0;
       std::size_t blanks = 0;
       while (standsForItself(static_cast<unsigned char>(text[plain]))) {
@@ -63,8 +66,10 @@ TYPED_TEST(CharacterRuns, GoOnOverEachCharacterOfTheirKindWhateverStandsBesideIt
       while (isWhiteSpace(static_cast<unsigned char>(text[blanks]))) {
         ++blanks;
       }
-      EXPECT_EQ(static_cast<std::size_t>(endOfPlain<TypeParam>(text.data()) - text.data()), plain) << code;
-      EXPECT_EQ(static_cast<std::size_t>(endOfBlanks<TypeParam>(text.data()) - text.data()), blanks) << code;
+      EXPECT_EQ(endOfPlain<TypeParam>(text.data()), text.data() + plain) << code;
+      EXPECT_EQ(endOfBlanks<TypeParam>(text.data()), text.data() + blanks) << code;
+      EXPECT_EQ(endOfPlain<TypeParam>(afterText.data()), afterText.data() + kShortText + plain) << code;
+      EXPECT_EQ(endOfBlanks<TypeParam>(afterBlanks.data()), afterBlanks.data() + kShortBlanks + blanks) << code;
     }
   }
 }

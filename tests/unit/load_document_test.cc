@@ -3,7 +3,11 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cmath>
+#include <cstring>
 #include <fstream>
+#include <random>
 #include <string>
 
 #include "capture.h"
@@ -40,6 +44,29 @@ class LoadDocument : public testing::Test {
     return {document.GetString(), document.GetStringLength()};
   }
 
+  /// Expects that a file with this content loads exactly when RapidJSON's own reader takes it, as the same number.
+  void compareNumber(const std::string& content) {
+    rapidjson::Document expected;
+    expected.Parse(content.c_str());
+    const bool isNumber = !expected.HasParseError() && std::isfinite(expected.GetDouble());
+    const std::string number = content.substr(std::min(content.find_first_not_of(' '), content.size()));
+    Document document;
+    ASSERT_EQ(loads(content, document), isNumber) << number;
+    if (!isNumber) {
+      return;
+    }
+    EXPECT_EQ(document.IsInt(), expected.IsInt()) << number;
+    EXPECT_EQ(document.IsUint(), expected.IsUint()) << number;
+    EXPECT_EQ(document.IsInt64(), expected.IsInt64()) << number;
+    EXPECT_EQ(document.IsUint64(), expected.IsUint64()) << number;
+    EXPECT_EQ(document.IsDouble(), expected.IsDouble()) << number;
+    const double value = document.GetDouble();
+    const double expectedValue = expected.GetDouble();
+    EXPECT_EQ(std::memcmp(&value, &expectedValue, sizeof(value)), 0) << number;
+    EXPECT_TRUE(!document.IsUint64() || document.GetUint64() == expected.GetUint64()) << number;
+    EXPECT_TRUE(!document.IsInt64() || document.GetInt64() == expected.GetInt64()) << number;
+  }
+
  private:
   std::string path_ = testing::TempDir() + "kovalt-XXXXXX";
 };
@@ -64,6 +91,65 @@ TEST_F(LoadDocument, TakesOrRefusesEachCharacterAtEachPlaceOfARun) {
         expected = before + "\bcdefgh";
       }
       EXPECT_EQ(loadedString('"' + text + '"'), expected) << code << ' ' << place;
+    }
+  }
+}
+
+TEST_F(LoadDocument, MakesTheSameOfEachNumberAsTheReaderByItself) {
+  std::mt19937 random(1);
+  const auto digits = [&random](std::size_t most) {
+    std::string text;
+    for (std::size_t count = random() % (most + 1); count > 0; --count) {
+      text += static_cast<char>('0' + random() % 10);
+    }
+    return text;
+  };
+  for (int round = 0; round < 4000; ++round) {
+    std::string number = (random() % 3 == 0 ? "-" : "") + digits(random() % 4 == 0 ? 22 : 9);
+    if (random() % 3 != 0) {
+      number += '.' + digits(random() % 4 == 0 ? 25 : 17);
+    }
+    if (random() % 6 == 0) {
+      number += (random() % 2 == 0 ? "e" : "E") + std::string(random() % 2 == 0 ? "-" : "") + digits(3);
+    }
+    if (random() % 20 == 0) {
+      number.insert(random() % (number.size() + 1), 1, "0.-+eE/:x"[random() % 9]);
+    }
+    compareNumber(number + ' ');
+  }
+  for (const char* number : {"0 ",
+                             "-0 ",
+                             "0.0 ",
+                             "-0.0 ",
+                             "00 ",
+                             "01 ",
+                             "-01 ",
+                             "0.5 ",
+                             "00.5 ",
+                             "9999999 ",
+                             "99999999 ",
+                             "9007199254740991.0 ",
+                             "9007199254740993.0 ",
+                             "9999999.999999999 ",
+                             "0.9999999999999999 ",
+                             "0.0000000000000001 ",
+                             "0.00000000000000001 ",
+                             "1. ",
+                             "-.5 ",
+                             ".5 ",
+                             "- ",
+                             "1.5.5 ",
+                             ""}) {
+    compareNumber(number);
+  }
+}
+
+TEST_F(LoadDocument, MakesTheSameOfNumbersWhereverAPieceEnds) {
+  for (const std::string number : {"12345", "-1234567", "12.5", "-60.305346760769", "9.999999999999999", "1.5e10"}) {
+    for (std::size_t inside = 0; inside <= number.size() + 1; ++inside) {
+      compareNumber(std::string(kPiece - inside, ' ') + number);
+      compareNumber(std::string(kPiece - inside, ' ') + number + ' ');
+      compareNumber(std::string(kPiece - inside, ' ') + number + "x");
     }
   }
 }
