@@ -2,10 +2,12 @@
 # Sourced by scripts/prove: builds the whole tree with every compiler that Debian offers, with GCC's standard library and
 # with LLVM's.
 
-# Prints the name of the package of LLVM's library that goes with the package of a compiler: its own, and for GCC the newest
-# that supports it.
+# Prints the name of the package of LLVM's library that goes with the package of a compiler: its own where it has
+# what the tool uses, and for GCC the newest that supports it.
 libcxx_of() {
   case $1 in
+    # The library of its own version has no std::to_chars for floating-point numbers.
+    clang-13) echo libc++-14 ;;
     clang-*) echo "libc++-${1#clang-}" ;;
     g++-11) echo libc++-14 ;;
     g++-12) echo libc++-16 ;;

@@ -1,7 +1,7 @@
 #include "json/find_object_by_ref.h"
 
-#include <charconv>
-#include <limits>
+#include <cstdlib>
+#include <string>
 
 #include "json/find_member.h"
 #include "json/ref_value.h"
@@ -55,9 +55,7 @@ Rest visitScalars(const Value& element, std::string_view refKey, Visit visit) {
 /// only a number that equals it has to be written.
 class Wanted {
  public:
-  explicit Wanted(std::string_view text) : text_(text) {
-    std::from_chars(text.data(), text.data() + text.size(), number_);
-  }
+  explicit Wanted(std::string_view text) : text_(text), number_(std::strtod(std::string(text).c_str(), nullptr)) {}
 
   [[nodiscard]] bool matches(const Value& scalar) const {
     if (scalar.IsNumber()) {
@@ -68,7 +66,7 @@ class Wanted {
 
  private:
   std::string_view text_;
-  double number_ = std::numeric_limits<double>::quiet_NaN();
+  double number_;  ///< Zero for a text that is no number, which then matches none.
 };
 
 /// Whether `element` is one to select, and what else it holds.
