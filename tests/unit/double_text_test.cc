@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -63,10 +62,7 @@ Digits digitsOf(const std::string& text) {
 }
 
 double read(std::uint64_t number, int power) {
-  const std::string text = std::to_string(number) + "e" + std::to_string(power);
-  double value = 0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return value;
+  return std::strtod((std::to_string(number) + "e" + std::to_string(power)).c_str(), nullptr);
 }
 
 /// Whether `value` is also what a number with one digit less reads as: the next below or the next above. When neither
