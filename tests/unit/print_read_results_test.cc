@@ -95,8 +95,8 @@ TEST(ReadObjectArrayConcatAction, TellsAnEmptyArrayFromWhatIsNoArray) {
     std::string text;
     bool executed = !found;
     Lookups lookups;
-    const Printed printed = capture([&, path = path] {
-      executed = ReadObjectArrayConcatAction(path, {"id"}, " ").execute(document, text, lookups);
+    const Printed printed = capture([&, keyPath = path] {
+      executed = ReadObjectArrayConcatAction(keyPath, {"id"}, " ").execute(document, text, lookups);
     });
     EXPECT_EQ(executed, found);
     EXPECT_EQ(text, "");
