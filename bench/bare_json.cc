@@ -1,7 +1,7 @@
-// The least that the JSON library needs for a file, with the same streams and buffers as the tool, to compare with.
+// The least that RapidJSON needs for a file, with the same streams and buffers as the tool, to compare with.
 //   bare_json load FILE        parses it
 //   bare_json save FILE OUT    parses it and writes it, indented by two spaces
-//   bare_json display FILE     parses it and prints it the plain way, which copies the text twice: out of the library's
+//   bare_json display FILE     parses it and prints it the plain way, which copies the text twice: out of RapidJSON's
 //                              buffer, and into a line of output
 
 #include <rapidjson/document.h>

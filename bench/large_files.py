@@ -115,7 +115,7 @@ def display(m, record, peers, name, kind, work, megabytes):
 
 
 def same_documents(m, *names):
-    """Ends the benchmark unless the files hold the same value: the library writes some numbers with more digits."""
+    """Ends the benchmark unless the files hold the same value: RapidJSON writes some numbers with more digits."""
     texts = [(m.folder / name).read_bytes() for name in names]
     if texts[0] != texts[1] and json.loads(texts[0]) != json.loads(texts[1]):
         raise SystemExit(f"{names[0]} and {names[1]} are different documents")

@@ -12,9 +12,10 @@ from pathlib import Path
 TERMS = """\
 - **Times Kovalt's**: what a program takes, divided by what Kovalt takes for the same. In every comparison more is
   better for Kovalt. A program that does the same with less is marked as **ahead**.
-- **Bare parse**: the least program around the same library, RapidJSON, with its own stream and the same buffer: it
-  parses the file into a document and ends. **Bare parse and write** saves the document too, indented. **The plain way**
-  prints it by way of the library's own string buffer. They, `cat` and a program that returns 0 are measures, not peers.
+- **Bare parse**: the least program around RapidJSON, which Kovalt uses too, with RapidJSON's own stream and the same
+  buffer: it parses the file into a document and ends. **Bare parse and write** saves the document too, indented. **The
+  plain way** prints it by way of RapidJSON's own string buffer. They, `cat` and a program that returns 0 are measures,
+  not peers.
 - **Memory**: the peak of the process's resident memory. **MB**: a million bytes.
 - **Exponent**: the power of the size with which a cost grows; 1 is in proportion, 2 is quadratic. In instructions it is
   taken between the first two sizes, in time of the processor between the last two.

@@ -66,8 +66,8 @@ std::FILE* openText(std::string& text) { return fmemopen(text.data(), text.size(
 void compare(std::string text) {
   std::FILE* file = openText(text);
   std::string bytes(kPiece, '\0');
-  rapidjson::FileReadStream libraryStream(file, bytes.data(), bytes.size());
-  const Outcome expected = outcomeOf(libraryStream);
+  rapidjson::FileReadStream rapidJsonStream(file, bytes.data(), bytes.size());
+  const Outcome expected = outcomeOf(rapidJsonStream);
   std::fclose(file);
 
   file = openText(text);
