@@ -1,7 +1,5 @@
 #include "actions/read/concat_records.h"
 
-#include <utility>
-
 #include "row.h"
 
 namespace kovalt::test {
@@ -54,9 +52,9 @@ class Records : public testing::TestWithParam<RecordsRow> {};
 TEST_P(Records, AreCountedAndSorted) {
   ConcatRecords records;
   for (const std::string& text : GetParam().added) {
-    records.add(text);
+    ++records[text];
   }
-  EXPECT_EQ(std::move(records).joinSorted(), GetParam().joined);
+  EXPECT_EQ(joined(records), GetParam().joined);
 }
 
 INSTANTIATE_TEST_SUITE_P(ConcatRecords, Records, testing::ValuesIn(recordsRows()), rowName<RecordsRow>);
@@ -68,28 +66,28 @@ TEST(ConcatRecords, CountsAmongVeryMany) {
   ConcatRecords records;
   std::string expected;
   for (int i = kLast; i >= kFirst; --i) {
-    records.add("r" + std::to_string(i));
+    ++records["r" + std::to_string(i)];
   }
   for (int i = kFirst; i <= kLast; i += 3) {
-    records.add("r" + std::to_string(i));
+    ++records["r" + std::to_string(i)];
   }
   for (int i = kFirst; i <= kLast; ++i) {
     expected += (i > kFirst ? " r" : "r") + std::to_string(i) + ((i - kFirst) % 3 == 0 ? "(2)" : "");
   }
-  EXPECT_EQ(std::move(records).joinSorted(), expected);
+  EXPECT_EQ(joined(records), expected);
 }
 
 TEST(ConcatRecords, OrdersEverySingleByte) {
   ConcatRecords records;
   std::string expected;
   for (int byte = 255; byte >= 0; --byte) {
-    records.add(std::string(1, static_cast<char>(byte)));
+    ++records[std::string(1, static_cast<char>(byte))];
   }
   for (int byte = 0; byte <= 255; ++byte) {
     expected += (byte > 0 ? " " : "");
     expected += static_cast<char>(byte);
   }
-  EXPECT_EQ(std::move(records).joinSorted(), expected);
+  EXPECT_EQ(joined(records), expected);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "actions/read/read_object_array_concat_action.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "actions/read/concat_records.h"
 
@@ -23,9 +22,9 @@ bool ReadObjectArrayConcatAction::execute(const Value& value, std::string& text,
   }
   ConcatRecords records;
   for (const Value& element : target->GetArray()) {
-    records.add(readRecord(element));
+    ++records[readRecord(element)];
   }
-  text = std::move(records).joinSorted();
+  text = joined(records);
   return true;
 }
 
