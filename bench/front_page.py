@@ -53,7 +53,7 @@ def figures(data):
         if with_memory:
             rows.append(["... and its memory", *(memory_text(row["memory"]) if row else "-" for row in measured)])
     machine = data["machine"]
-    origin = (f"Version {data['version']}, commit {data['commit'][:12]}, {data['date']}, {machine['processor']}, "
+    origin = (f"Version {data['version']}, commit {data['commit']}, {data['date']}, {machine['processor']}, "
               f"{machine['processors']} processors; times are medians, \"x\" says how many times Kovalt's.")
     return table(["", *programs], rows) + "\n\n" + origin + "\n"
 
