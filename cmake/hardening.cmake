@@ -6,10 +6,12 @@ add_library(kovalt_hardened_code INTERFACE)
 add_library(kovalt_hardened INTERFACE)
 target_link_libraries(kovalt_hardened INTERFACE kovalt_hardened_code)
 if(KOVALT_STATIC AND NOT KOVALT_SANITIZE)
+  # The second level is the highest that GCC 11 knows.
+  set(fortified $<IF:$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,12>>,2,3>)
   target_compile_options(
     kovalt_hardened_code
     INTERFACE -fPIE -fstack-protector-strong -fstack-clash-protection -fno-delete-null-pointer-checks -fno-strict-overflow
-              -fno-strict-aliasing -D_GLIBCXX_ASSERTIONS -U_FORTIFY_SOURCE $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=3>)
+              -fno-strict-aliasing -D_GLIBCXX_ASSERTIONS -U_FORTIFY_SOURCE $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=${fortified}>)
   # Each processor has at most one of them. Clang takes the other one too, with a warning.
   set(CMAKE_REQUIRED_FLAGS -Werror)
   foreach(flag -fcf-protection=full -mbranch-protection=standard)

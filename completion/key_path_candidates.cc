@@ -1,7 +1,7 @@
 #include "completion/key_path_candidates.h"
 
+#include <set>
 #include <string>
-#include <unordered_set>
 #include <utility>
 
 #include "completion/reachable_steps.h"
@@ -88,7 +88,7 @@ class StepCollector {
   std::string_view typed_;
   KeyPathUse use_;
   CandidateList candidates_;
-  std::unordered_set<std::string_view> keys_;
+  std::set<std::string_view> keys_;
 };
 
 Values follow(const Values& values, std::string_view step, KeyPathUse use) {
