@@ -12,12 +12,10 @@ namespace {
 bool parse(std::FILE* file, const Projection& projection, Document& document) {
   InputBuffer buffer(file);
   InputStream stream(buffer);
-  ProjectingHandler handler(projection, document);
+  ProjectingHandler handler(projection, stream, document);
   bool parsed = false;
   auto generate = [&](Document& /*document*/) {
-    rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, AbortingAllocator> reader;
-    // The reader also stops at a NUL character.
-    parsed = !reader.Parse<rapidjson::kParseDefaultFlags>(stream, handler).IsError() && stream.isAtEnd();
+    parsed = handler.parse();
     return parsed;
   };
   document.Populate(generate);

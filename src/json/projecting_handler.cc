@@ -1,6 +1,83 @@
 #include "json/projecting_handler.h"
 
+#include "json/tuning/content_loop.h"
+#include "json/tuning/short_number.h"
+
 namespace kovalt {
+namespace {
+
+using rapidjson::SizeType;
+
+/// Content that becomes part of a document. What takes more than one look is left to the handler.
+struct KeptContent {
+  Document& document;
+  ProjectingHandler& handler;
+
+  bool takeText(InputStream& stream) {
+    const auto text = stream.peekString();
+    if (!text) {
+      return handler.parseScalar(stream);
+    }
+    document.String(text->data(), static_cast<SizeType>(text->size()), true);
+    stream.skip(text->size() + 2);
+    return true;
+  }
+
+  bool takeOther(InputStream& stream) {
+    const std::size_t length = takeShortNumber(stream.peekText(), document);
+    stream.skip(length);
+    return length > 0 || (stream.consume("true") && document.Bool(true)) ||
+           (stream.consume("false") && document.Bool(false)) || (stream.consume("null") && document.Null()) ||
+           handler.parseScalar(stream);
+  }
+
+  void start(char end) { end == '}' ? document.StartObject() : document.StartArray(); }
+  void end(char end, SizeType count) { end == '}' ? document.EndObject(count) : document.EndArray(count); }
+};
+
+/// Content that is passed over.
+struct PassedContent {
+  ProjectingHandler& handler;
+
+  bool takeText(InputStream& stream) {
+    const auto text = stream.peekString();
+    if (!text) {
+      return handler.parseScalar(stream);
+    }
+    stream.skip(text->size() + 2);
+    return true;
+  }
+
+  bool takeOther(InputStream& stream) {
+    const std::size_t length = stream.peekNumber();
+    stream.skip(length);
+    return length > 0 || stream.consume("true") || stream.consume("false") || stream.consume("null") ||
+           handler.parseScalar(stream);
+  }
+
+  static void start(char /*end*/) {}
+  static void end(char /*end*/, SizeType /*count*/) {}
+};
+
+}  // namespace
+
+bool ProjectingHandler::parse() {
+  decltype(scalarReader_) reader;
+  if (reader.Parse<rapidjson::kParseStopWhenDoneFlag>(stream_, *this).IsError()) {
+    return false;
+  }
+  stream_.skipBlanks();
+  return stream_.isAtEnd();
+}
+
+bool ProjectingHandler::parseScalar(InputStream& stream) {
+  return !scalarReader_.Parse<rapidjson::kParseStopWhenDoneFlag>(stream, *this).IsError();
+}
+
+bool ProjectingHandler::takeText(std::string_view text, bool isName) {
+  const auto add = [&] { return document_.String(text.data(), static_cast<SizeType>(text.size()), true); };
+  return isName ? !chooseMember(text) || add() : takeScalar(add);
+}
 
 bool ProjectingHandler::countNext() {
   if (next_ && !open_.empty()) {
@@ -9,37 +86,36 @@ bool ProjectingHandler::countNext() {
   return next_.has_value();
 }
 
-bool ProjectingHandler::chooseObject() {
-  if (!countNext()) {
-    enter(Mode::passing);
-    return true;
+[[gnu::noinline]] bool ProjectingHandler::start(char end) {
+  KeptContent kept{document_, *this};
+  const bool isKept = countNext();
+  if (isKept) {
+    kept.start(end);
+    const auto elements = projection_.elements(*next_);
+    if (!projection_.keepsWhole(*next_) && (end == '}' ? projection_.keepsMembers(*next_) : elements.has_value())) {
+      open_.push_back({*next_, ++opened_});
+      next_ = elements;
+      return true;
+    }
   }
-  document_.StartObject();
-  if (projection_.keepsWhole(*next_)) {
-    enter(Mode::whole);
-  } else if (projection_.keepsMembers(*next_)) {
-    open(*next_);
-  } else {
-    document_.EndObject(0);
-    enter(Mode::passing);
+  mode_ = isKept && projection_.keepsWhole(*next_) ? Mode::whole : Mode::passing;
+  PassedContent passed{*this};
+  const auto count = mode_ == Mode::whole ? takeContent(stream_, end, kept) : takeContent(stream_, end, passed);
+  if (count && isKept) {
+    kept.end(end, mode_ == Mode::whole ? *count : 0);
   }
-  return true;
+  return count.has_value();
 }
 
-bool ProjectingHandler::chooseArray() {
-  if (!countNext()) {
-    enter(Mode::passing);
+bool ProjectingHandler::end(char end) {
+  if (mode_ != Mode::choosing) {
+    mode_ = Mode::choosing;
     return true;
   }
-  document_.StartArray();
-  if (projection_.keepsWhole(*next_)) {
-    enter(Mode::whole);
-  } else if (projection_.elements(*next_)) {
-    open(*next_);
-    next_ = projection_.elements(*next_);
-  } else {
-    document_.EndArray(0);
-    enter(Mode::passing);
+  KeptContent{document_, *this}.end(end, open_.back().kept);
+  open_.pop_back();
+  if (!open_.empty()) {
+    next_ = projection_.elements(open_.back().place);
   }
   return true;
 }
@@ -54,17 +130,6 @@ bool ProjectingHandler::chooseMember(std::string_view name) {
     keptIn_[*next_] = open_.back().number;
   }
   return next_.has_value();
-}
-
-void ProjectingHandler::open(Projection::Place place) { open_.push_back({place, ++opened_}); }
-
-rapidjson::SizeType ProjectingHandler::close() {
-  const rapidjson::SizeType kept = open_.back().kept;
-  open_.pop_back();
-  if (!open_.empty()) {
-    next_ = projection_.elements(open_.back().place);
-  }
-  return kept;
 }
 
 }  // namespace kovalt

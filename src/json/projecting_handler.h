@@ -15,12 +15,20 @@
 namespace kovalt {
 
 /// A handler of RapidJSON that hands on to a document what a projection keeps, and passes over the rest. Stops the
-/// reader at a number that became infinite: it lets some pass, and the writers could not write them.
+/// reader at a number that became infinite: it lets some pass, and the writers could not write them. The content of
+/// arrays and objects that are kept as a whole or not at all is taken out of the stream at their start, so that the
+/// reader finds them empty.
 class ProjectingHandler {
  public:
-  /// Both must live as long as the handler.
-  ProjectingHandler(const Projection& projection, Document& document)
-      : projection_(projection), document_(document), keptIn_(projection.size()) {}
+  /// All must live as long as the handler.
+  ProjectingHandler(const Projection& projection, InputStream& stream, Document& document)
+      : projection_(projection), stream_(stream), document_(document), keptIn_(projection.size()) {}
+
+  /// Reads the stream to its end. Returns whether it held exactly one JSON value.
+  bool parse();
+
+  /// Parses a value of `stream` that holds no others. Returns false where there is none.
+  bool parseScalar(InputStream& stream);
 
   bool Null() {
     return takeScalar([this] { return document_.Null(); });
@@ -44,39 +52,13 @@ class ProjectingHandler {
     return std::isfinite(value) && takeScalar([=] { return document_.Double(value); });
   }
 
-  bool StartObject() {
-    if (mode_ == Mode::choosing) {
-      return chooseObject();
-    }
-    ++depth_;
-    return mode_ == Mode::passing || document_.StartObject();
-  }
-  bool EndObject(rapidjson::SizeType memberCount) {
-    if (mode_ == Mode::choosing) {
-      return document_.EndObject(close());
-    }
-    return leave() == Mode::passing || document_.EndObject(memberCount);
-  }
-
-  bool StartArray() {
-    if (mode_ == Mode::choosing) {
-      return chooseArray();
-    }
-    ++depth_;
-    return mode_ == Mode::passing || document_.StartArray();
-  }
-  bool EndArray(rapidjson::SizeType elementCount) {
-    if (mode_ == Mode::choosing) {
-      return document_.EndArray(close());
-    }
-    return leave() == Mode::passing || document_.EndArray(elementCount);
-  }
+  bool StartObject() { return start('}'); }
+  bool EndObject(rapidjson::SizeType /*memberCount*/) { return end('}'); }
+  bool StartArray() { return start(']'); }
+  bool EndArray(rapidjson::SizeType /*elementCount*/) { return end(']'); }
 
   /// Named by the reader, but never called.
   static bool RawNumber(const char* /*text*/, rapidjson::SizeType /*length*/, bool /*copy*/) { return false; }
-
-  /// Whether everything that comes next is passed over, until what is open ends.
-  [[nodiscard]] bool isPassing() const { return mode_ == Mode::passing; }
 
   /// Whether the text of the string that comes next is looked at.
   [[nodiscard]] bool takesText(bool isName) const {
@@ -84,14 +66,7 @@ class ProjectingHandler {
   }
 
   /// Takes a string or, with `isName`, the name of a member. Where `takesText` is false, any text will do.
-  bool takeText(std::string_view text, bool isName) {
-    const auto length = static_cast<rapidjson::SizeType>(text.size());
-    if (!isName) {
-      return takeScalar([=] { return document_.String(text.data(), length, true); });
-    }
-    return mode_ == Mode::passing || (mode_ == Mode::choosing && !chooseMember(text)) ||
-           document_.Key(text.data(), length, true);
-  }
+  bool takeText(std::string_view text, bool isName);
 
  private:
   enum class Mode {
@@ -120,30 +95,18 @@ class ProjectingHandler {
 
   /// Counts the value that comes next. Returns false where not even its kind is kept.
   bool countNext();
-  bool chooseObject();
-  bool chooseArray();
+  /// Takes the start of an array or object that ends at `end`, and maybe its content. Kept out of the reader's
+  /// recursive functions, whose stack frames decide how many steps a key path can have.
+  bool start(char end);
+  bool end(char end);
   /// Whether the member that comes next is kept.
   bool chooseMember(std::string_view name);
-  void open(Projection::Place place);
-  /// Returns how many members or elements were kept.
-  rapidjson::SizeType close();
-
-  void enter(Mode mode) {
-    mode_ = mode;
-    depth_ = 1;
-  }
-  Mode leave() {
-    const Mode left = mode_;
-    if (--depth_ == 0) {
-      mode_ = Mode::choosing;
-    }
-    return left;
-  }
 
   const Projection& projection_;
+  InputStream& stream_;
   Document& document_;
+  rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, AbortingAllocator> scalarReader_;
   Mode mode_ = Mode::choosing;
-  std::size_t depth_ = 0;                                      ///< Of what is open inside the value of the mode.
   std::optional<Projection::Place> next_ = Projection::kRoot;  ///< Where the value that comes next stands.
   std::vector<OpenContainer> open_;
   std::size_t opened_ = 0;

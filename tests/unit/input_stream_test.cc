@@ -1,4 +1,4 @@
-// RapidJSON's reader takes the same out of a file through the stream here as through its own.
+// RapidJSON's reader takes the same out of a file through the stream here as through its own, and so do loads.
 
 #include "json/tuning/input_stream.h"
 
@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "json/document.h"
+#include "json/projecting_handler.h"
 #include "json/value_to_text.h"
 
 namespace kovalt::test {
@@ -63,6 +64,22 @@ Outcome outcomeOf(Stream& stream) {
 
 std::FILE* openText(std::string& text) { return fmemopen(text.data(), text.size(), "r"); }
 
+/// What a load keeps of a file with this text.
+std::string load(std::string& text, const Projection& projection) {
+  std::FILE* file = openText(text);
+  InputBuffer buffer(file);
+  InputStream stream(buffer);
+  Document document;
+  bool parsed = false;
+  auto generate = [&](Document& /*document*/) {
+    return parsed = ProjectingHandler(projection, stream, document).parse();
+  };
+  document.Populate(generate);
+  std::fclose(file);
+  return parsed ? valueToText(document, false) : "(refused)";
+}
+
+/// The stream and the loads must do with `text` what RapidJSON does through its own stream.
 void compare(std::string text) {
   std::FILE* file = openText(text);
   std::string bytes(kPiece, '\0');
@@ -75,8 +92,15 @@ void compare(std::string text) {
   InputStream stream(buffer);
   EXPECT_EQ(stream.isAtEnd(), text.empty());
   const Outcome outcome = outcomeOf(stream);
-  EXPECT_EQ(outcome, expected) << text.substr(std::min(text.find_first_not_of(' '), text.size()));
+  const std::string shown = text.substr(std::min(text.find_first_not_of(' '), text.size()));
+  EXPECT_EQ(outcome, expected) << shown;
   std::fclose(file);
+
+  const bool isOneValue = expected.error == rapidjson::kParseErrorNone && expected.isAtEnd;
+  Projection whole;
+  whole.addWhole(Projection::kRoot);
+  EXPECT_EQ(load(text, whole), isOneValue ? expected.text : "(refused)") << shown;
+  EXPECT_EQ(load(text, {}) != "(refused)", isOneValue) << shown;
 }
 
 /// The text with the end of the first or the second piece at each of its places.
@@ -119,6 +143,19 @@ const std::vector<std::string>& texts() {
       "[1e]",
       "[-]",
       "[01]",
+      R"({"a":[{},[],{"b":[[]]}],"c":{"d":{}}})",
+      R"([ 1 , true,false , null,"x" ,{ "k" : -0 , "l":[ ] } , [ ] ])",
+      "[1 2]",
+      "[1}",
+      R"({"a":1])",
+      R"({"a":1,})",
+      R"({"a"})",
+      R"({"a":})",
+      "[,1]",
+      "[tru,1]",
+      "[nulls]",
+      "[[[[1]]]",
+      "[1,[2,3],{\"a\":[]}]]",
   };
   return kTexts;
 }

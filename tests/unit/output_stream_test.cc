@@ -1,6 +1,8 @@
 #include "json/tuning/output_stream.h"
 
 #include <gtest/gtest.h>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
 
 #include <algorithm>
 #include <memory>
@@ -39,17 +41,12 @@ class OutputStreamText : public testing::Test {
     expected_ += (comma ? ",\n" : "\n") + std::string(spaces, ' ');
   }
 
-  /// Puts all of `text`, of which '"' and '\\' are put one by one.
-  void putPlain(const std::string& text) {
-    for (std::size_t taken = 0; taken < text.size();) {
-      const std::size_t added = stream_.putPlain(std::string_view(text).substr(taken));
-      EXPECT_EQ(text.substr(taken, added).find_first_of("\"\\"), std::string::npos);
-      taken += added;
-      if (taken < text.size()) {
-        stream_.Put(text[taken++]);
-      }
-    }
-    expected_ += text;
+  void putString(const std::string& text) {
+    stream_.putString(text);
+    rapidjson::StringBuffer buffer;
+    rapidjson::Writer<rapidjson::StringBuffer>(buffer).String(text.data(),
+                                                              static_cast<rapidjson::SizeType>(text.size()));
+    expected_.append(buffer.GetString(), buffer.GetSize());
   }
 
   void checkWritten() {
@@ -85,11 +82,11 @@ TEST_F(OutputStreamText, IsWrittenWhole) {
         startLine(length % 2 == 0, length);
         break;
       case 4:
-        putPlain(text);
+        putString(text);
         break;
       default:
-        text += "\\" + text + "\"\"" + text;
-        putPlain(text);
+        text += "\\" + text + "\"\"" + text + static_cast<char>(i % 256) + text;
+        putString(text);
         break;
     }
   }
@@ -98,7 +95,17 @@ TEST_F(OutputStreamText, IsWrittenWhole) {
 
 TEST_F(OutputStreamText, MayHaveOneRunOfSeveralPieces) {
   putRepeated('z', 200000);
-  putPlain(std::string(200000, 'a') + "\\" + std::string(65536, 'b'));
+  putString(std::string(200000, 'a') + "\\" + std::string(65536, 'b'));
+  checkWritten();
+}
+
+TEST_F(OutputStreamText, EscapesEveryCharacterAsRapidJsonDoes) {
+  for (int character = 0; character < 256; ++character) {
+    for (std::size_t before = 0; before < 40; ++before) {
+      putString(std::string(before, 'a') + static_cast<char>(character));
+      putString(static_cast<char>(character) + std::string(before, 'a'));
+    }
+  }
   checkWritten();
 }
 

@@ -3,7 +3,6 @@
 #include <cstring>
 
 namespace kovalt {
-
 InputBuffer::InputBuffer(std::FILE* file) : file_(file) { fill(); }
 
 const char* InputBuffer::settle(const char* place) {
@@ -17,6 +16,16 @@ const char* InputBuffer::settle(const char* place) {
     return bytes_;
   }
   return end_;
+}
+
+const char* InputBuffer::skipBlanks(const char* place) {
+  do {
+    place = endOfBlanks<CharacterBlock>(place + 1);
+    if (*place == '\0') {
+      place = settle(place);
+    }
+  } while (isBlank(*place));
+  return place;
 }
 
 void InputBuffer::fill() {

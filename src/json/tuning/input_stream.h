@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <cstring>
 #include <optional>
 #include <string_view>
 
@@ -25,6 +26,9 @@ class InputBuffer {
   /// To be called at a NUL byte. Returns `place` if the byte is one of the file; after the last byte held, reads the
   /// next ones and returns the first of them. At the end of the file, that is one of the NUL bytes after its last byte.
   const char* settle(const char* place);
+
+  /// The first character after the blanks that begin at `place`.
+  const char* skipBlanks(const char* place);
 
   /// Whether nothing is left of the file at `place`, to which `settle` came.
   [[nodiscard]] bool isEnd(const char* place) const { return place == end_; }
@@ -71,10 +75,27 @@ class InputStream {
 
   /// Takes all blanks that come next.
   void skipBlanks() {
-    while (isBlank(*next_)) {
-      next_ = endOfBlanks<CharacterBlock>(next_ + 1);
-      settle();
+    if (isBlank(*next_)) {
+      // Most often it is a single one.
+      next_ = next_[1] > ' ' ? next_ + 1 : buffer_->skipBlanks(next_);
     }
+  }
+
+  /// Takes `separator`, with the blanks before and after it. Where something else comes next, takes only the blanks
+  /// before it and returns false.
+  bool takeSeparator(char separator) {
+    // Most often there are none.
+    if (*next_ == separator && next_[1] > ' ') {
+      ++next_;
+      return true;
+    }
+    skipBlanks();
+    if (*next_ != separator) {
+      return false;
+    }
+    Take();
+    skipBlanks();
+    return true;
   }
 
   /// Takes characters that stand for themselves in a string and hands them to `take`: up to one that does not, or as
@@ -107,7 +128,7 @@ class InputStream {
       isWhole &= end != fraction;
     }
     const auto size = static_cast<std::size_t>(end - next_);
-    return isWhole && *end != '\0' && *end != 'e' && *end != 'E' && size < kLongNumber ? size : 0;
+    return isWhole && *end != '\0' && (*end | 0x20) != 'e' && size < kLongNumber ? size : 0;
   }
 
   /// The characters that come next, which end with a NUL character in the buffer.
@@ -117,6 +138,17 @@ class InputStream {
   void skip(std::size_t count) {
     next_ += count;
     settle();
+  }
+
+  /// Takes `text` if the buffer holds it next. Returns whether it does.
+  template <std::size_t kSize>
+  bool consume(const char (&text)[kSize]) {
+    static_assert(kSize - 1 <= CharacterBlock::kSize);
+    if (std::memcmp(next_, text, kSize - 1) != 0) {
+      return false;
+    }
+    skip(kSize - 1);
+    return true;
   }
 
   /// Named by the reader, but never called.

