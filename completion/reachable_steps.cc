@@ -6,7 +6,6 @@
 #include "completion/starts_with.h"
 #include "json/ref_value.h"
 #include "json/text_value.h"
-#include "json/tuning/first_match_index.h"
 
 namespace kovalt {
 namespace {
@@ -33,13 +32,11 @@ bool keyFits(std::string_view key, std::string_view typed) {
 
 /// Of the members of `object` with the same name, the first.
 std::vector<const Value::Member*> firstMembers(const Value& object) {
-  const Value::ConstMemberIterator members = object.MemberBegin();
-  const auto nameAt = [members](std::size_t i) { return textOf(members[static_cast<std::ptrdiff_t>(i)].name); };
-  FirstMatchIndex firstOf;
+  std::unordered_set<std::string_view> names;
   std::vector<const Value::Member*> first;
-  for (std::size_t i = 0; i < object.MemberCount(); ++i) {
-    if (firstOf.find(nameAt(i), i, nameAt) == i) {
-      first.push_back(&members[static_cast<std::ptrdiff_t>(i)]);
+  for (const Value::Member& member : object.GetObject()) {
+    if (names.insert(textOf(member.name)).second) {
+      first.push_back(&member);
     }
   }
   return first;

@@ -43,7 +43,8 @@ void widen(Value& value, std::size_t count, std::size_t stride, Allocator& alloc
 void tryMerge(Document& target, Document& source) {
   PlainValue expected = plainValue(target);
   const std::optional<End> expectedEnd = mergePlain(expected, plainValue(source)).end;
-  const std::optional<End> end = endOf([&] { mergeValue(target, source, target.GetAllocator()); });
+  MemberFinder members;
+  const std::optional<End> end = endOf([&] { mergeValue(target, source, target.GetAllocator(), members); });
   expect(end == expectedEnd, "a merge ends the process only where it must");
   expect(end || plainValue(target) == expected, "a merge leaves the members, counts and order of the plain merge");
 }

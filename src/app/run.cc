@@ -32,7 +32,7 @@ void applyEdits(const ToolContext& context, Document& document) {
   Lookups lookups;
   for (const auto& action : context.editActions) {
     if (!applyAtPath(*action, document, lookups)) {
-      Value chain = buildPathChain(*action, document.GetAllocator());
+      Value chain = buildPathChain(*action, document.GetAllocator(), lookups.members);
       mergeValue(document, chain, document.GetAllocator(), lookups.members);
     }
   }

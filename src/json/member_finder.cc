@@ -1,7 +1,9 @@
 #include "json/member_finder.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <limits>
 
 #include "json/text_value.h"
 
@@ -14,9 +16,13 @@ using rapidjson::SizeType;
 constexpr SizeType kScannedSize = 32;
 constexpr unsigned kScans = 32;
 
+constexpr SizeType kEnd = std::numeric_limits<SizeType>::max();  // Of a chain.
+
+std::size_t hashOf(std::string_view name) { return std::hash<std::string_view>()(name); }
+
 const Value::Member* membersOf(const Value& object) { return object.MemberBegin().operator->(); }
 
-std::uint32_t hashOf(std::string_view name) { return static_cast<std::uint32_t>(std::hash<std::string_view>()(name)); }
+std::string_view nameAt(const Value& object, SizeType position) { return textOf(membersOf(object)[position].name); }
 
 }  // namespace
 
@@ -50,35 +56,56 @@ bool MemberFinder::remove(Value& object, std::string_view name) {
   if (position == object.MemberCount()) {
     return false;
   }
-  const auto known = indexes_.find(membersOf(object));
-  if (known != indexes_.end() && known->second.places.erase({hashOf(name), position}) > 0) {
+  if (object.MemberCount() <= kScannedSize) {
+    indexes_.erase(membersOf(object));
+  } else if (Index& index = indexes_[membersOf(object)]; !index.places.empty()) {
     const SizeType last = object.MemberCount() - 1;
-    const std::uint32_t lastHash = hashOf(textOf(membersOf(object)[last].name));
-    known->second.places.erase({lastHash, last});
+    index.unlink(position);
     if (position != last) {
-      known->second.places.emplace(lastHash, position);
+      index.unlink(last);
+      index.places[position].hash = index.places[last].hash;
+      index.link(position);
     }
+    index.places.pop_back();
   }
   object.RemoveMember(object.MemberBegin() + static_cast<std::ptrdiff_t>(position));
   return true;
 }
 
+void MemberFinder::Index::link(SizeType position) {
+  SizeType& first = chainOf(places[position].hash);
+  places[position].next = first;
+  first = position;
+}
+
+void MemberFinder::Index::unlink(SizeType position) {
+  SizeType* link = &chainOf(places[position].hash);
+  while (*link != position) {
+    link = &places[*link].next;
+  }
+  *link = places[position].next;
+}
+
 SizeType MemberFinder::positionOf(const Value& object, std::string_view name) {
   const SizeType size = object.MemberCount();
   if (size > kScannedSize) {
-    const Value::Member* members = membersOf(object);
-    Index& index = indexes_[members];
+    Index& index = indexes_[membersOf(object)];
     if (index.scans == kScans) {
-      auto& places = index.places;
-      for (auto next = static_cast<SizeType>(places.size()); next < size; ++next) {
-        places.emplace(hashOf(textOf(members[next].name)), next);
+      if (size > index.chains.size()) {
+        index = {std::vector<SizeType>(std::size_t{size} * 4, kEnd), {}, kScans};
       }
-      const std::uint32_t hash = hashOf(name);
-      auto place = places.lower_bound({hash, 0});
-      while (place != places.end() && place->first == hash && textOf(members[place->second].name) != name) {
-        ++place;
+      for (auto next = static_cast<SizeType>(index.places.size()); next < size; ++next) {
+        index.places.push_back({hashOf(nameAt(object, next)), kEnd});
+        index.link(next);
       }
-      return place != places.end() && place->first == hash ? place->second : size;
+      const std::size_t hash = hashOf(name);
+      SizeType first = size;
+      for (SizeType at = index.chainOf(hash); at != kEnd; at = index.places[at].next) {
+        if (index.places[at].hash == hash && nameAt(object, at) == name) {
+          first = std::min(first, at);
+        }
+      }
+      return first;
     }
     ++index.scans;
   }

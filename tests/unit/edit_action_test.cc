@@ -17,18 +17,28 @@ using namespace std::string_literals;
 
 static_assert(std::has_virtual_destructor_v<EditAction>, "actions are deleted through it");
 
+bool apply(const EditAction& action, Value* target, Document& document) {
+  MemberFinder members;
+  return action.apply(target, document.GetAllocator(), members);
+}
+
+Value chainOf(const EditAction& action, Document& document) {
+  MemberFinder members;
+  return buildPathChain(action, document.GetAllocator(), members);
+}
+
 TEST(EditAction, OfItselfChangesNothing) {
   for (const char* json : {R"({"a":[1]})", "[1]", R"("s")", "1", "true", "false", "null"}) {
     SCOPED_TRACE(json);
     Document document = parsed(json);
-    EXPECT_TRUE(EditAction("a.b").apply(&document, document.GetAllocator()));
+    EXPECT_TRUE(apply(EditAction("a.b"), &document, document));
     EXPECT_EQ(textOf(document), json);
   }
 }
 
 TEST(EditAction, OfItselfAcceptsANullTarget) {
   Document document;
-  EXPECT_TRUE(EditAction("").apply(nullptr, document.GetAllocator()));
+  EXPECT_TRUE(apply(EditAction(""), nullptr, document));
 }
 
 TEST(EditAction, CutsItsKeyPathAtDots) {
@@ -79,7 +89,7 @@ TEST_P(Addition, ReplacesWhateverTheTargetHeld) {
   for (const char* json : {R"({"a":[1]})", "[1,2]", R"("s")", "1", "true", "false", "null"}) {
     SCOPED_TRACE(json);
     Document document = parsed(json);
-    EXPECT_TRUE(GetParam().action->apply(&document, document.GetAllocator()));
+    EXPECT_TRUE(apply(*GetParam().action, &document, document));
     EXPECT_EQ(textOf(document), GetParam().made);
   }
 }
@@ -105,7 +115,7 @@ class AdditionWithoutTarget : public testing::TestWithParam<AdditionRow> {};
 TEST_P(AdditionWithoutTarget, FailsInSilence) {
   Document document;
   bool applied = true;
-  const Printed printed = capture([&] { applied = GetParam().action->apply(nullptr, document.GetAllocator()); });
+  const Printed printed = capture([&] { applied = apply(*GetParam().action, nullptr, document); });
   EXPECT_FALSE(applied);
   EXPECT_EQ(printed.output + printed.errors, "");
 }
@@ -115,8 +125,7 @@ INSTANTIATE_TEST_SUITE_P(EditAction, AdditionWithoutTarget, testing::ValuesIn(nu
 TEST(AddBooleanAction, LeavesTheTargetAloneForAnyOtherWord) {
   Document document = parsed(R"({"a":1})");
   bool applied = true;
-  const Printed printed =
-      capture([&] { applied = AddBooleanAction("k", "True1").apply(&document, document.GetAllocator()); });
+  const Printed printed = capture([&] { applied = apply(AddBooleanAction("k", "True1"), &document, document); });
   EXPECT_FALSE(applied);
   EXPECT_EQ(textOf(document), R"({"a":1})");
   EXPECT_EQ(printed.errors, "Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, true1 rejected.\n");
@@ -130,7 +139,7 @@ TEST(AddFileAtAction, MakesAnObjectEvenWithoutItsFile) {
     Document document = parsed(before);
     bool applied = false;
     const Printed printed =
-        capture([&] { applied = AddFileAtAction("k", "no/such/file").apply(&document, document.GetAllocator()); });
+        capture([&] { applied = apply(AddFileAtAction("k", "no/such/file"), &document, document); });
     EXPECT_TRUE(applied);
     EXPECT_EQ(textOf(document), after);
     EXPECT_EQ(printed.errors, "Could not open document: no/such/file\n");
@@ -144,7 +153,7 @@ class ObservedAction : public EditAction {
  public:
   ObservedAction(std::string_view keyPath, bool result) : EditAction(keyPath), result_(result) {}
 
-  bool apply(Value* target, Allocator& allocator) const override {
+  bool apply(Value* target, Allocator& allocator, MemberFinder& /*members*/) const override {
     ++calls;
     lastTarget = target;
     lastAllocator = &allocator;
@@ -207,7 +216,7 @@ TEST(BuildPathChain, AppliesOnceToAFreshNullWhateverTheResult) {
     SCOPED_TRACE(result);
     Document document;
     const ObservedAction action("a.id=1.", result);
-    const Value chain = buildPathChain(action, document.GetAllocator());
+    const Value chain = chainOf(action, document);
     EXPECT_EQ(action.calls, 1);
     EXPECT_TRUE(action.targetWasNull);
     EXPECT_EQ(action.lastAllocator, &document.GetAllocator());
@@ -218,15 +227,14 @@ TEST(BuildPathChain, AppliesOnceToAFreshNullWhateverTheResult) {
 TEST(BuildPathChain, KeepsNullForARejectedBoolean) {
   Document document;
   Value chain;
-  const Printed printed =
-      capture([&] { chain = buildPathChain(AddBooleanAction("a.b", "yes"), document.GetAllocator()); });
+  const Printed printed = capture([&] { chain = chainOf(AddBooleanAction("a.b", "yes"), document); });
   EXPECT_EQ(textOf(chain), R"({"a":{"b":null}})");
   EXPECT_EQ(printed.errors, "Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, yes rejected.\n");
 }
 
 TEST(BuildPathChain, IsTheBareValueWithoutSteps) {
   Document document;
-  EXPECT_EQ(textOf(buildPathChain(AddStringAction("", "v"), document.GetAllocator())), R"("v")");
+  EXPECT_EQ(textOf(chainOf(AddStringAction("", "v"), document)), R"("v")");
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ class Merge {
   Merge(const std::string& target, const std::string& source)
       : target_(parsed(target)), source_(parsedInto(source, target_.GetAllocator())) {}
 
-  void run() { mergeValue(target_, source_, target_.GetAllocator()); }
+  void run() { mergeValue(target_, source_, target_.GetAllocator(), members_); }
 
   [[nodiscard]] const Value& target() const { return target_; }
   [[nodiscard]] const Value& source() const { return source_; }
@@ -38,6 +38,7 @@ class Merge {
  private:
   Document target_;
   Value source_;
+  MemberFinder members_;
 };
 
 struct MergeRow : Row {

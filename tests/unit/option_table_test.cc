@@ -157,8 +157,9 @@ class OptionForm : public testing::TestWithParam<FormRow> {
 
   std::string effectOfTheEdit() {
     Document document;
+    MemberFinder members;
     Value chain;
-    printed = capture([&] { chain = buildPathChain(*context.editActions.front(), document.GetAllocator()); });
+    printed = capture([&] { chain = buildPathChain(*context.editActions.front(), document.GetAllocator(), members); });
     return textOf(chain);
   }
 

@@ -8,7 +8,7 @@ namespace kovalt {
 AddFileAtAction::AddFileAtAction(std::string_view keyPath, std::string_view filePath)
     : EditAction(keyPath), value_(filePath) {}
 
-bool AddFileAtAction::apply(Value* target, Allocator& allocator) const {
+bool AddFileAtAction::apply(Value* target, Allocator& allocator, MemberFinder& members) const {
   if (target == nullptr) {
     return false;
   }
@@ -19,7 +19,7 @@ bool AddFileAtAction::apply(Value* target, Allocator& allocator) const {
   if (!target->IsObject()) {
     target->SetObject();
   }
-  mergeValue(*target, file, allocator);
+  mergeValue(*target, file, allocator, members);
   return true;
 }
 

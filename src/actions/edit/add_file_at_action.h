@@ -16,7 +16,7 @@ class AddFileAtAction : public EditAction {
   /// target. A file that cannot be opened or parsed is reported on standard error and counts as an empty object; one
   /// whose root is no object ends the process through RapidJSON's assertion, and one whose types clash with those of
   /// `target` as mergeValue says.
-  bool apply(Value* target, Allocator& allocator) const override;
+  bool apply(Value* target, Allocator& allocator, MemberFinder& members) const override;
 
  private:
   std::string value_;

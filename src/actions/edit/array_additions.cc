@@ -20,7 +20,7 @@ void startArray(Value& target, std::size_t size, Allocator& allocator) {
 AddArrayAction::AddArrayAction(std::string_view keyPath, std::vector<std::string> values)
     : EditAction(keyPath), values_(std::move(values)) {}
 
-bool AddArrayAction::apply(Value* target, Allocator& allocator) const {
+bool AddArrayAction::apply(Value* target, Allocator& allocator, MemberFinder& /*members*/) const {
   if (target == nullptr) {
     return false;
   }
@@ -34,7 +34,7 @@ bool AddArrayAction::apply(Value* target, Allocator& allocator) const {
 AddArrayNumberAction::AddArrayNumberAction(std::string_view keyPath, std::vector<std::string> values)
     : EditAction(keyPath), values_(std::move(values)) {}
 
-bool AddArrayNumberAction::apply(Value* target, Allocator& allocator) const {
+bool AddArrayNumberAction::apply(Value* target, Allocator& allocator, MemberFinder& /*members*/) const {
   if (target == nullptr) {
     return false;
   }
@@ -50,7 +50,7 @@ AddArrayBooleanAction::AddArrayBooleanAction(std::string_view keyPath, const std
   std::transform(values.begin(), values.end(), std::back_inserter(values_), toLower);
 }
 
-bool AddArrayBooleanAction::apply(Value* target, Allocator& allocator) const {
+bool AddArrayBooleanAction::apply(Value* target, Allocator& allocator, MemberFinder& /*members*/) const {
   if (target == nullptr) {
     return false;
   }

@@ -17,7 +17,7 @@ class AddArrayAction : public EditAction {
   AddArrayAction(std::string_view keyPath, std::vector<std::string> values);
 
   /// Takes each value up to its first NUL byte.
-  bool apply(Value* target, Allocator& allocator) const override;
+  bool apply(Value* target, Allocator& allocator, MemberFinder& members) const override;
 
  private:
   std::vector<std::string> values_;
@@ -30,7 +30,7 @@ class AddArrayNumberAction : public EditAction {
 
   /// Converts each value as std::stoi does. One that is no number throws what std::stoi throws, which nobody catches:
   /// the call ends there, before any output.
-  bool apply(Value* target, Allocator& allocator) const override;
+  bool apply(Value* target, Allocator& allocator, MemberFinder& members) const override;
 
  private:
   std::vector<std::string> values_;
@@ -42,7 +42,7 @@ class AddArrayBooleanAction : public EditAction {
   AddArrayBooleanAction(std::string_view keyPath, const std::vector<std::string>& values);
 
   /// A word that means no boolean becomes null, and one line on standard error then lists all the words.
-  bool apply(Value* target, Allocator& allocator) const override;
+  bool apply(Value* target, Allocator& allocator, MemberFinder& members) const override;
 
  private:
   std::vector<std::string> values_;  ///< In lower case.

@@ -19,10 +19,11 @@ class EditAction {
   virtual ~EditAction();
 
   /// Writes the action's value into `target`, whatever that held, allocating from `allocator`, the pool of the target's
-  /// document. Returns false, having changed nothing, for a value that is not accepted, after saying so on standard
-  /// error, and for a null target, silently: a path that leads nowhere is no fault of the action's, and may be handed
-  /// on without a look. The base itself has no value: it changes nothing and returns true.
-  virtual bool apply(Value* target, Allocator& allocator) const;
+  /// document, and finding members with `members`. Returns false, having changed nothing, for a value that is not
+  /// accepted, after saying so on standard error, and for a null target, silently: a path that leads nowhere is no
+  /// fault of the action's, and may be handed on without a look. The base itself has no value: it changes nothing and
+  /// returns true.
+  virtual bool apply(Value* target, Allocator& allocator, MemberFinder& members) const;
 
   [[nodiscard]] const KeyPath& keyPath() const { return keyPath_; }
 
@@ -36,6 +37,6 @@ bool applyAtPath(const EditAction& action, Document& document, Lookups& lookups)
 
 /// The value of `action`, made by one call of `apply` on a fresh null, inside one object for each step of its key path:
 /// merged into a document, it adds all that was missing.
-Value buildPathChain(const EditAction& action, Allocator& allocator);
+Value buildPathChain(const EditAction& action, Allocator& allocator, MemberFinder& members);
 
 }  // namespace kovalt

@@ -5,7 +5,6 @@
 #include "json/process_end.h"
 #include "json/standard_streams.h"
 #include "json/text_value.h"
-#include "json/tuning/first_match_index.h"
 
 namespace kovalt {
 namespace {
@@ -21,66 +20,46 @@ void appendElements(Value& target, Value& source, Allocator& allocator) {
   }
 }
 
-/// Moves the value of `member` into `existing`, the one of the same name. But two objects that meet are left alone, and
-/// `existing` is returned; otherwise nullptr.
-Value* mergeMember(Value& existing, Value::Member& member, Allocator& allocator) {
-  if (existing.GetType() != member.value.GetType()) {
+/// Moves `member` into `target`. But the object that another one meets is returned, both left alone; otherwise nullptr.
+/// Kept out of the recursive function, whose stack frame decides how deep a merge can go.
+[[gnu::noinline]] Value* mergeMember(Value& target, Value::Member& member, Allocator& allocator,
+                                     MemberFinder& members) {
+  Value* existing = members.find(target, textOf(member.name));
+  if (existing == nullptr) {
+    members.append(target, member.name, member.value, allocator);
+    return nullptr;
+  }
+  if (existing->GetType() != member.value.GetType()) {
     endForIncompatibleTypes(textOf(member.name));
   }
-  if (existing.IsObject()) {
-    return &existing;
+  if (existing->IsObject()) {
+    return existing;
   }
-  if (existing.IsArray()) {
-    appendElements(existing, member.value, allocator);
+  if (existing->IsArray()) {
+    appendElements(*existing, member.value, allocator);
   } else {
-    existing = member.value;
+    *existing = member.value;
   }
   return nullptr;
 }
 
-/// As mergeMember for the first member of that name, if there is one; else appends the member. Kept out of the
-/// recursive function, whose stack frame decides how deep a merge can go.
-[[gnu::noinline]] Value* mergeOrAppendMember(Value& target, Value::Member& member, FirstMatchIndex& names,
-                                             Allocator& allocator) {
-  const auto members = target.MemberBegin();
-  const std::size_t position = names.find(textOf(member.name), target.MemberCount(), [&](std::size_t i) {
-    return textOf(members[static_cast<std::ptrdiff_t>(i)].name);
-  });
-  if (position == target.MemberCount()) {
-    target.AddMember(member.name, member.value, allocator);
-    return nullptr;
-  }
-  return mergeMember(members[static_cast<std::ptrdiff_t>(position)].value, member, allocator);
-}
-
 }  // namespace
-
-void mergeValue(Value& target, Value& source, Allocator& allocator) {
-  FirstMatchIndex names;
-  for (Value::Member& member : source.GetObject()) {
-    if (Value* existing = mergeOrAppendMember(target, member, names, allocator)) {
-      mergeValue(*existing, member.value, allocator);
-    }
-  }
-}
 
 void mergeValue(Value& target, Value& source, Allocator& allocator, MemberFinder& members) {
   Value* into = &target;
-  Value* from = &source;
-  while (from->MemberCount() == 1) {
-    Value::Member& member = *from->MemberBegin();
-    Value* existing = members.find(*into, textOf(member.name));
-    if (existing == nullptr) {
-      members.append(*into, member.name, member.value, allocator);
-      return;
+  auto next = source.GetObject().MemberBegin();
+  for (auto end = source.MemberEnd(); next != end;) {
+    Value::Member& member = *next++;
+    Value* existing = mergeMember(*into, member, allocator, members);
+    if (existing != nullptr && next == end) {
+      // Nothing is left to come back to, so that the chain along a key path takes no stack.
+      into = existing;
+      next = member.value.MemberBegin();
+      end = member.value.MemberEnd();
+    } else if (existing != nullptr) {
+      mergeValue(*existing, member.value, allocator, members);
     }
-    into = mergeMember(*existing, member, allocator);
-    if (into == nullptr) {
-      return;
-    }
-    from = &member.value;
   }
-  mergeValue(*into, *from, allocator);
 }
 
 }  // namespace kovalt

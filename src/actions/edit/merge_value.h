@@ -13,11 +13,7 @@ namespace kovalt {
 ///
 /// Two values of different types (true and false are two types) are reported on standard error, and the process ends at
 /// once with status 1. A `source` that is no object ends it through RapidJSON's assertion, and so does a `target`
-/// that is none when it meets a member.
-void mergeValue(Value& target, Value& source, Allocator& allocator);
-
-/// As above, for one of many merges into the document of `members`: objects of a single member, as a chain along a key
-/// path has them, are merged in a time that does not grow with `target`.
+/// that is none when it meets a member. `members` serves the document of both.
 void mergeValue(Value& target, Value& source, Allocator& allocator, MemberFinder& members);
 
 }  // namespace kovalt

@@ -8,7 +8,7 @@ namespace kovalt {
 AddStringAction::AddStringAction(std::string_view keyPath, std::string_view value)
     : EditAction(keyPath), value_(value) {}
 
-bool AddStringAction::apply(Value* target, Allocator& allocator) const {
+bool AddStringAction::apply(Value* target, Allocator& allocator, MemberFinder& /*members*/) const {
   if (target == nullptr) {
     return false;
   }
@@ -19,7 +19,7 @@ bool AddStringAction::apply(Value* target, Allocator& allocator) const {
 AddNumberAction::AddNumberAction(std::string_view keyPath, std::string_view value)
     : EditAction(keyPath), value_(value) {}
 
-bool AddNumberAction::apply(Value* target, Allocator& /*allocator*/) const {
+bool AddNumberAction::apply(Value* target, Allocator& /*allocator*/, MemberFinder& /*members*/) const {
   if (target == nullptr) {
     return false;
   }
@@ -30,7 +30,7 @@ bool AddNumberAction::apply(Value* target, Allocator& /*allocator*/) const {
 AddBooleanAction::AddBooleanAction(std::string_view keyPath, std::string_view value)
     : EditAction(keyPath), value_(toLower(value)) {}
 
-bool AddBooleanAction::apply(Value* target, Allocator& /*allocator*/) const {
+bool AddBooleanAction::apply(Value* target, Allocator& /*allocator*/, MemberFinder& /*members*/) const {
   if (target == nullptr) {
     return false;
   }
@@ -43,7 +43,7 @@ bool AddBooleanAction::apply(Value* target, Allocator& /*allocator*/) const {
   return true;
 }
 
-bool AddObjectAction::apply(Value* target, Allocator& /*allocator*/) const {
+bool AddObjectAction::apply(Value* target, Allocator& /*allocator*/, MemberFinder& /*members*/) const {
   if (target == nullptr) {
     return false;
   }

@@ -14,7 +14,7 @@ namespace kovalt {
 class AddStringAction : public EditAction {
  public:
   AddStringAction(std::string_view keyPath, std::string_view value);
-  bool apply(Value* target, Allocator& allocator) const override;
+  bool apply(Value* target, Allocator& allocator, MemberFinder& members) const override;
 
  private:
   std::string value_;
@@ -27,7 +27,7 @@ class AddNumberAction : public EditAction {
 
   /// Converts the value as std::stoi does. A text without leading digits or out of range throws what std::stoi throws,
   /// which nobody catches: the call ends there, before any output.
-  bool apply(Value* target, Allocator& allocator) const override;
+  bool apply(Value* target, Allocator& allocator, MemberFinder& members) const override;
 
  private:
   std::string value_;
@@ -39,7 +39,7 @@ class AddBooleanAction : public EditAction {
   AddBooleanAction(std::string_view keyPath, std::string_view value);
 
   /// Returns false with `target` as it was for a word that means no boolean, which is reported on standard error.
-  bool apply(Value* target, Allocator& allocator) const override;
+  bool apply(Value* target, Allocator& allocator, MemberFinder& members) const override;
 
  private:
   std::string value_;  ///< In lower case.
@@ -49,7 +49,7 @@ class AddBooleanAction : public EditAction {
 class AddObjectAction : public EditAction {
  public:
   using EditAction::EditAction;
-  bool apply(Value* target, Allocator& allocator) const override;
+  bool apply(Value* target, Allocator& allocator, MemberFinder& members) const override;
 };
 
 }  // namespace kovalt
