@@ -1,9 +1,7 @@
 #include "json/member_finder.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <functional>
-#include <limits>
 
 #include "json/text_value.h"
 
@@ -16,13 +14,12 @@ using rapidjson::SizeType;
 constexpr SizeType kScannedSize = 32;
 constexpr unsigned kScans = 32;
 
-constexpr SizeType kEnd = std::numeric_limits<SizeType>::max();  // Of a chain.
-
-std::size_t hashOf(std::string_view name) { return std::hash<std::string_view>()(name); }
-
 const Value::Member* membersOf(const Value& object) { return object.MemberBegin().operator->(); }
 
-std::string_view nameAt(const Value& object, SizeType position) { return textOf(membersOf(object)[position].name); }
+/// The place of a member in an index.
+std::uint64_t placeOf(std::string_view name, SizeType position) {
+  return std::uint64_t{std::hash<std::string_view>()(name)} << 32 | position;
+}
 
 }  // namespace
 
@@ -39,7 +36,7 @@ Value* MemberFinder::find(Value& value, std::string_view name) {
 }
 
 void MemberFinder::append(Value& object, Value& name, Value& value, Allocator& allocator) {
-  const Value::Member* before = membersOf(object);
+  const Value::Member* before = object.MemberBegin().operator->();
   object.AddMember(name, value, allocator);
   if (membersOf(object) != before) {
     // The members were moved to a larger array, and their index goes with them.
@@ -56,60 +53,43 @@ bool MemberFinder::remove(Value& object, std::string_view name) {
   if (position == object.MemberCount()) {
     return false;
   }
-  if (object.MemberCount() <= kScannedSize) {
-    indexes_.erase(membersOf(object));
-  } else if (Index& index = indexes_[membersOf(object)]; !index.places.empty()) {
+  const auto known = indexes_.find(membersOf(object));
+  if (known != indexes_.end() && known->second.places.erase(placeOf(name, position)) > 0) {
     const SizeType last = object.MemberCount() - 1;
-    index.unlink(position);
+    const std::string_view lastName = textOf(membersOf(object)[last].name);
+    known->second.places.erase(placeOf(lastName, last));
     if (position != last) {
-      index.unlink(last);
-      index.places[position].hash = index.places[last].hash;
-      index.link(position);
+      known->second.places.insert(placeOf(lastName, position));
     }
-    index.places.pop_back();
   }
   object.RemoveMember(object.MemberBegin() + static_cast<std::ptrdiff_t>(position));
   return true;
 }
 
-void MemberFinder::Index::link(SizeType position) {
-  SizeType& first = chainOf(places[position].hash);
-  places[position].next = first;
-  first = position;
-}
-
-void MemberFinder::Index::unlink(SizeType position) {
-  SizeType* link = &chainOf(places[position].hash);
-  while (*link != position) {
-    link = &places[*link].next;
-  }
-  *link = places[position].next;
-}
-
 SizeType MemberFinder::positionOf(const Value& object, std::string_view name) {
-  const SizeType size = object.MemberCount();
+  // What is no object is left to the assertion of the search.
+  const SizeType size = object.IsObject() ? object.MemberCount() : 0;
   if (size > kScannedSize) {
-    Index& index = indexes_[membersOf(object)];
+    const Value::Member* members = membersOf(object);
+    Index& index = indexes_[members];
     if (index.scans == kScans) {
-      if (size > index.chains.size()) {
-        index = {std::vector<SizeType>(std::size_t{size} * 4, kEnd), {}, kScans};
+      auto& places = index.places;
+      for (auto next = static_cast<SizeType>(places.size()); next < size; ++next) {
+        places.insert(placeOf(textOf(members[next].name), next));
       }
-      for (auto next = static_cast<SizeType>(index.places.size()); next < size; ++next) {
-        index.places.push_back({hashOf(nameAt(object, next)), kEnd});
-        index.link(next);
-      }
-      const std::size_t hash = hashOf(name);
-      SizeType first = size;
-      for (SizeType at = index.chainOf(hash); at != kEnd; at = index.places[at].next) {
-        if (index.places[at].hash == hash && nameAt(object, at) == name) {
-          first = std::min(first, at);
+      const std::uint64_t first = placeOf(name, 0);
+      for (auto place = places.lower_bound(first); place != places.end() && *place >> 32 == first >> 32; ++place) {
+        const auto position = static_cast<SizeType>(*place);
+        if (textOf(members[position].name) == name) {
+          return position;
         }
       }
-      return first;
+      return size;
     }
     ++index.scans;
   }
-  return static_cast<SizeType>(object.FindMember(referToText(name)) - object.MemberBegin());
+  const auto found = object.FindMember(referToText(name));
+  return static_cast<SizeType>(found - object.MemberBegin());
 }
 
 }  // namespace kovalt
