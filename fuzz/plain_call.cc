@@ -73,7 +73,7 @@ class Call {
 
   void report(const std::string& line) { call_.errors += line + "\n"; }
 
-  bool matches(const PlainValue& item, const std::string& refValue) {
+  static bool matches(const PlainValue& item, const std::string& refValue) {
     return item.type == rapidjson::kStringType ? upToNul(item.text) == quoted(refValue) : item.text == refValue;
   }
 

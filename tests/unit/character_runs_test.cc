@@ -52,7 +52,10 @@ TYPED_TEST(CharacterRuns, GoOnOverEachCharacterOfTheirKindWhateverStandsBesideIt
   for (int code = 0; code < 256; ++code) {
     const std::string pair = {static_cast<char>(code), static_cast<char>(code ^ 1)};
     for (const int other : {code, code ^ 1}) {
-      std::string texts = pair + pair + pair + pair;
+      std::string texts;
+      for (int i = 0; i < 4; ++i) {
+        texts += pair;
+      }
       texts[5] = static_cast<char>(other);
       // Blocks of plain characters are looked at after the first ones only.
       const std::string text = inBlocks<TypeParam>(texts);

@@ -85,8 +85,7 @@ TEST_F(OutputStreamText, IsWrittenWhole) {
         putString(text);
         break;
       default:
-        text += "\\" + text + "\"\"" + text + static_cast<char>(i % 256) + text;
-        putString(text);
+        putString(std::string(text).append("\\\"").append(text).append(1, static_cast<char>(i % 256)).append(text));
         break;
     }
   }

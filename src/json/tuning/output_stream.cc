@@ -5,7 +5,7 @@ namespace kovalt {
 void OutputStream::putRest(std::string_view text) {
   while (!text.empty()) {
     makeRoom();
-    const std::size_t room = static_cast<std::size_t>(buffer_ + kPiece + kRoom - end_);
+    const auto room = static_cast<std::size_t>(buffer_ + kPiece + kRoom - end_);
     const std::size_t plain = copyPlain<CharacterBlock>(text.data(), std::min(text.size(), room), end_);
     end_ += plain;
     text.remove_prefix(plain);
@@ -27,7 +27,7 @@ void OutputStream::putEscaped(char character) {
     return;
   }
   char* const digits = Push(5);
-  std::memcpy(digits, character < '\x10' ? "u000" : "u001", 4);
+  std::string_view(character < '\x10' ? "u000" : "u001").copy(digits, 4);
   digits[4] = "0123456789ABCDEF"[character % 16];
 }
 
