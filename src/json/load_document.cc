@@ -22,18 +22,15 @@ bool parse(std::FILE* file, const Projection& projection, Document& document) {
   return parsed;
 }
 
-bool parseAndClose(std::FILE* file, const std::string& path, const Projection& projection, Document& document) {
-  const bool parsed = parse(file, projection, document);
-  std::fclose(file);
-  if (!parsed) {
-    reportLine("Could not parse json file " + path);
-  }
-  return parsed;
-}
-
 }  // namespace
 
 bool loadDocument(const std::string& path, Document& document, bool reportOpenFailure) {
+  Projection whole;
+  whole.addWhole(Projection::kRoot);
+  return loadProjected(path, whole, document, reportOpenFailure);
+}
+
+bool loadProjected(const std::string& path, const Projection& projection, Document& document, bool reportOpenFailure) {
   std::FILE* file = std::fopen(path.c_str(), "r");
   if (file == nullptr) {
     if (reportOpenFailure) {
@@ -41,14 +38,12 @@ bool loadDocument(const std::string& path, Document& document, bool reportOpenFa
     }
     return false;
   }
-  Projection whole;
-  whole.addWhole(Projection::kRoot);
-  return parseAndClose(file, path, whole, document);
-}
-
-bool loadProjected(const std::string& path, const Projection& projection, Document& document) {
-  std::FILE* file = std::fopen(path.c_str(), "r");
-  return file != nullptr && parseAndClose(file, path, projection, document);
+  const bool parsed = parse(file, projection, document);
+  std::fclose(file);
+  if (!parsed) {
+    reportLine("Could not parse json file " + path);
+  }
+  return parsed;
 }
 
 }  // namespace kovalt

@@ -16,6 +16,7 @@ bool loadDocument(const std::string& path, Document& document, bool reportOpenFa
 
 /// As `loadDocument` without a report of a file that cannot be opened, but `document` becomes only what `projection`
 /// keeps of the file. All of it is read and checked.
-bool loadProjected(const std::string& path, const Projection& projection, Document& document);
+bool loadProjected(const std::string& path, const Projection& projection, Document& document,
+                   bool reportOpenFailure = false);
 
 }  // namespace kovalt

@@ -11,7 +11,7 @@
 
 namespace kovalt {
 
-/// Finds and removes members by name, in a time that does not grow with the object: one of many members that is asked
+/// Finds and removes members by name, in a time that hardly grows with the object: one of many members that is asked
 /// again and again gets an index of its names. One finder serves one document.
 ///
 /// An index belongs to an array of members, not to a value, and a document's pool never uses memory twice, so an index

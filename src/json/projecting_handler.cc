@@ -62,6 +62,7 @@ struct PassedContent {
 }  // namespace
 
 bool ProjectingHandler::parse() {
+  // A scalar that is parsed meanwhile would clear the stack of this reader.
   decltype(scalarReader_) reader;
   if (reader.Parse<rapidjson::kParseStopWhenDoneFlag>(stream_, *this).IsError()) {
     return false;
@@ -74,9 +75,13 @@ bool ProjectingHandler::parseScalar(InputStream& stream) {
   return !scalarReader_.Parse<rapidjson::kParseStopWhenDoneFlag>(stream, *this).IsError();
 }
 
-bool ProjectingHandler::takeText(std::string_view text, bool isName) {
+void ProjectingHandler::takeText(std::string_view text, bool isName) {
   const auto add = [&] { return document_.String(text.data(), static_cast<SizeType>(text.size()), true); };
-  return isName ? !chooseMember(text) || add() : takeScalar(add);
+  if (!isName) {
+    takeScalar(add);
+  } else if (chooseMember(text)) {
+    add();
+  }
 }
 
 bool ProjectingHandler::countNext() {

@@ -30,6 +30,7 @@ class ProjectingHandler {
   /// Parses a value of `stream` that holds no others. Returns false where there is none.
   bool parseScalar(InputStream& stream);
 
+  // The events of RapidJSON's reader. They return false to stop it.
   bool Null() {
     return takeScalar([this] { return document_.Null(); });
   }
@@ -66,7 +67,7 @@ class ProjectingHandler {
   }
 
   /// Takes a string or, with `isName`, the name of a member. Where `takesText` is false, any text will do.
-  bool takeText(std::string_view text, bool isName);
+  void takeText(std::string_view text, bool isName);
 
  private:
   enum class Mode {
@@ -110,7 +111,7 @@ class ProjectingHandler {
   std::optional<Projection::Place> next_ = Projection::kRoot;  ///< Where the value that comes next stands.
   std::vector<OpenContainer> open_;
   std::size_t opened_ = 0;
-  std::vector<std::size_t> keptIn_;  ///< By its place, the number of the last object of which a member was kept.
+  std::vector<std::size_t> keptIn_;  ///< For each place, the number of the last object whose member there was kept.
 };
 
 }  // namespace kovalt

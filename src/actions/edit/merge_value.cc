@@ -1,6 +1,7 @@
 #include "actions/edit/merge_value.h"
 
 #include <string>
+#include <vector>
 
 #include "json/process_end.h"
 #include "json/standard_streams.h"
@@ -21,9 +22,7 @@ void appendElements(Value& target, Value& source, Allocator& allocator) {
 }
 
 /// Moves `member` into `target`. But the object that another one meets is returned, both left alone; otherwise nullptr.
-/// Kept out of the recursive function, whose stack frame decides how deep a merge can go.
-[[gnu::noinline]] Value* mergeMember(Value& target, Value::Member& member, Allocator& allocator,
-                                     MemberFinder& members) {
+Value* mergeMember(Value& target, Value::Member& member, Allocator& allocator, MemberFinder& members) {
   Value* existing = members.find(target, textOf(member.name));
   if (existing == nullptr) {
     members.append(target, member.name, member.value, allocator);
@@ -46,18 +45,22 @@ void appendElements(Value& target, Value& source, Allocator& allocator) {
 }  // namespace
 
 void mergeValue(Value& target, Value& source, Allocator& allocator, MemberFinder& members) {
-  Value* into = &target;
-  auto next = source.GetObject().MemberBegin();
-  for (auto end = source.MemberEnd(); next != end;) {
-    Value::Member& member = *next++;
-    Value* existing = mergeMember(*into, member, allocator, members);
-    if (existing != nullptr && next == end) {
-      // Nothing is left to come back to, so that the chain along a key path takes no stack.
-      into = existing;
-      next = member.value.MemberBegin();
-      end = member.value.MemberEnd();
-    } else if (existing != nullptr) {
-      mergeValue(*existing, member.value, allocator, members);
+  struct Rest {
+    Value* into;
+    Value::MemberIterator next;
+    Value::MemberIterator end;
+  };
+  // Kept on the heap instead of the call stack, so that no depth of nesting can end the process.
+  std::vector<Rest> open = {{&target, source.GetObject().MemberBegin(), source.MemberEnd()}};
+  while (!open.empty()) {
+    Rest& rest = open.back();
+    if (rest.next == rest.end) {
+      open.pop_back();
+      continue;
+    }
+    Value::Member& member = *rest.next++;
+    if (Value* existing = mergeMember(*rest.into, member, allocator, members)) {
+      open.push_back({existing, member.value.MemberBegin(), member.value.MemberEnd()});
     }
   }
 }

@@ -13,8 +13,8 @@
 
 namespace kovalt {
 
-/// Takes what stands in an array or object whose start was taken, up to `end`, the character at which it ends, and that
-/// is left. `content` takes texts and other scalars out of the stream, as RapidJSON's reader accepts them, and is told
+/// Takes what stands in an array or object whose start was taken, up to the bracket `end`, which is left. `content`
+/// takes texts and other scalars out of the stream, as RapidJSON's reader accepts them, and is told
 /// of the arrays and objects inside. Returns the number of elements or members; none where the text is no JSON.
 template <typename Content>
 [[gnu::noinline]] std::optional<rapidjson::SizeType> takeContent(InputStream& stream, char end, Content& content) {
@@ -39,8 +39,7 @@ template <typename Content>
         count = 0;
         end = first == '{' ? '}' : ']';
         content.start(end);
-        next.Take();
-        next.skipBlanks();
+        next.takeSeparator(first);
         isEmpty = next.Peek() == end;
         continue;
       }

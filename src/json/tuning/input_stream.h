@@ -1,7 +1,7 @@
 #pragma once
 
-// The stream between a file and RapidJSON's reader. With the steps on it, reading one value of long texts takes less
-// than a sixth of the instructions of RapidJSON's parse.
+// The stream between a file and RapidJSON's reader. With the steps in rapidjson_steps.h, reading one value of long
+// texts takes less than a sixth of the instructions of RapidJSON's parse.
 
 #include <cstddef>
 #include <cstdio>

@@ -40,7 +40,7 @@ class OutputStream {
     return added;
   }
 
-  /// Takes the last `count` characters of those away.
+  /// Takes back the last `count` characters that `Push` added.
   void Pop(std::size_t count) { end_ -= count; }
 
   /// Adds `character` `count` times.

@@ -28,16 +28,14 @@ std::size_t takeShortNumber(const char* text, Document& document) {
   ++end;
   const WordBlock::Digits first = WordBlock::readDigits(end);
   end += first.count;
-  const WordBlock::Digits second = WordBlock::readDigits(end);
-  end += first.count == WordBlock::kSize ? second.count : 0;
-  const std::size_t decimals = first.count == WordBlock::kSize ? first.count + second.count : first.count;
+  const auto second = first.count == WordBlock::kSize ? WordBlock::readDigits(end) : WordBlock::Digits{0, 0};
+  end += second.count;
+  const std::size_t decimals = first.count + second.count;
   if (decimals == 0 || whole.count + decimals > kMostDigits || !isEnd()) {
     return 0;
   }
-  std::uint64_t digits = whole.value * kPowers[first.count] + first.value;
-  if (first.count == WordBlock::kSize) {
-    digits = digits * kPowers[second.count] + second.value;
-  }
+  const std::uint64_t digits =
+      (whole.value * kPowers[first.count] + first.value) * kPowers[second.count] + second.value;
   const double value =
       rapidjson::internal::StrtodNormalPrecision(static_cast<double>(digits), -static_cast<int>(decimals));
   document.Double(isNegative ? -value : value);
