@@ -1,7 +1,10 @@
 #include "json/member_finder.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <limits>
+#include <utility>
 
 #include "json/text_value.h"
 
@@ -13,13 +16,13 @@ using rapidjson::SizeType;
 // Up to this size an object is scanned, and so is a greater one for its first questions: its index costs as much.
 constexpr SizeType kScannedSize = 32;
 constexpr unsigned kScans = 32;
+constexpr SizeType kNone = std::numeric_limits<SizeType>::max();
 
 const Value::Member* membersOf(const Value& object) { return object.MemberBegin().operator->(); }
 
-/// The place of a member in an index.
-std::uint64_t placeOf(std::string_view name, SizeType position) {
-  return std::uint64_t{std::hash<std::string_view>()(name)} << 32 | position;
-}
+std::uint32_t hashOf(std::string_view name) { return static_cast<std::uint32_t>(std::hash<std::string_view>()(name)); }
+
+std::string_view nameAt(const Value& object, SizeType position) { return textOf(membersOf(object)[position].name); }
 
 }  // namespace
 
@@ -53,38 +56,66 @@ bool MemberFinder::remove(Value& object, std::string_view name) {
   if (position == object.MemberCount()) {
     return false;
   }
-  const auto known = indexes_.find(membersOf(object));
-  if (known != indexes_.end() && known->second.places.erase(placeOf(name, position)) > 0) {
+  if (object.MemberCount() <= kScannedSize) {
+    indexes_.erase(membersOf(object));
+  } else if (Index& index = indexes_[membersOf(object)]; !index.places.empty()) {
     const SizeType last = object.MemberCount() - 1;
-    const std::string_view lastName = textOf(membersOf(object)[last].name);
-    known->second.places.erase(placeOf(lastName, last));
+    index.erase(position);
     if (position != last) {
-      known->second.places.insert(placeOf(lastName, position));
+      index.erase(last);
+      index.places[position].hash = index.places[last].hash;
+      index.insert(position);
     }
+    index.places.pop_back();
   }
   object.RemoveMember(object.MemberBegin() + static_cast<std::ptrdiff_t>(position));
   return true;
+}
+
+void MemberFinder::Index::insert(SizeType position) {
+  Place& place = places[position];
+  SizeType& first = chainOf(place.hash);
+  if (first == kNone || position < first) {
+    place.previous = first == kNone ? position : std::exchange(places[first].previous, position);
+    place.next = std::exchange(first, position);
+    return;
+  }
+  SizeType before = places[first].previous;
+  if (position < before) {
+    for (before = first; places[before].next < position; before = places[before].next) {
+    }
+  }
+  place.previous = before;
+  place.next = std::exchange(places[before].next, position);
+  places[place.next == kNone ? first : place.next].previous = position;
+}
+
+void MemberFinder::Index::erase(SizeType position) {
+  const Place& place = places[position];
+  SizeType& first = chainOf(place.hash);
+  places[place.next == kNone ? first : place.next].previous = place.previous;
+  (position == first ? first : places[place.previous].next) = place.next;
 }
 
 SizeType MemberFinder::positionOf(const Value& object, std::string_view name) {
   // What is no object is left to the assertion of the search.
   const SizeType size = object.IsObject() ? object.MemberCount() : 0;
   if (size > kScannedSize) {
-    const Value::Member* members = membersOf(object);
-    Index& index = indexes_[members];
+    Index& index = indexes_[membersOf(object)];
     if (index.scans == kScans) {
-      auto& places = index.places;
-      for (auto next = static_cast<SizeType>(places.size()); next < size; ++next) {
-        places.insert(placeOf(textOf(members[next].name), next));
+      if (size > index.chains.size()) {
+        index = {std::vector<SizeType>(std::size_t{size} * 4, kNone), {}, kScans};
       }
-      const std::uint64_t first = placeOf(name, 0);
-      for (auto place = places.lower_bound(first); place != places.end() && *place >> 32 == first >> 32; ++place) {
-        const auto position = static_cast<SizeType>(*place);
-        if (textOf(members[position].name) == name) {
-          return position;
-        }
+      for (auto next = static_cast<SizeType>(index.places.size()); next < size; ++next) {
+        index.places.push_back({hashOf(nameAt(object, next)), kNone, kNone});
+        index.insert(next);
       }
-      return size;
+      const std::uint32_t hash = hashOf(name);
+      SizeType at = index.chainOf(hash);
+      while (at != kNone && !(index.places[at].hash == hash && nameAt(object, at) == name)) {
+        at = index.places[at].next;
+      }
+      return std::min(at, size);
     }
     ++index.scans;
   }

@@ -3,9 +3,9 @@
 // The members of objects that many options of one call ask for.
 
 #include <cstdint>
-#include <set>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "json/document.h"
 
@@ -16,8 +16,8 @@ namespace kovalt {
 ///
 /// An index belongs to an array of members, not to a value, and a document's pool never uses memory twice, so an index
 /// is never taken for that of another object. Names are only ever appended, which the next question makes up for, or
-/// removed, which `remove` makes up for; values change as they like, as no index knows them. Each place is looked up in
-/// ascending order with its name compared, so that the first member of a name is found, whatever its hash.
+/// removed, which `remove` makes up for; values change as they like, as no index knows them. Names are compared in
+/// ascending order of their places, so that the first member of a name is found, whatever its hash.
 class MemberFinder {
  public:
   /// As `findMember(value, name)`.
@@ -32,9 +32,20 @@ class MemberFinder {
   bool remove(Value& object, std::string_view name);
 
  private:
+  /// The members by the hashes of their names: chains of ascending positions.
   struct Index {
-    std::set<std::uint64_t> places;  ///< The hash of a name, and in the lower half the position of a member.
-    unsigned scans = 0;              ///< How many questions were answered without it.
+    struct Place {
+      std::uint32_t hash;
+      rapidjson::SizeType previous;  ///< In the first place of a chain its last one.
+      rapidjson::SizeType next;
+    };
+    std::vector<rapidjson::SizeType> chains;  ///< The first position of each.
+    std::vector<Place> places;                ///< By the position of a member.
+    unsigned scans = 0;                       ///< How many questions were answered without it.
+
+    rapidjson::SizeType& chainOf(std::uint32_t hash) { return chains[hash % chains.size()]; }
+    void insert(rapidjson::SizeType position);
+    void erase(rapidjson::SizeType position);
   };
 
   [[nodiscard]] rapidjson::SizeType positionOf(const Value& object, std::string_view name);
