@@ -32,7 +32,7 @@ bool keyFits(std::string_view key, std::string_view typed) {
 
 /// Of the members of `object` with the same name, the first.
 std::vector<const Value::Member*> firstMembers(const Value& object) {
-  std::unordered_set<std::string_view> names;
+  std::set<std::string_view> names;
   std::vector<const Value::Member*> first;
   for (const Value::Member& member : object.GetObject()) {
     if (names.insert(textOf(member.name)).second) {

@@ -4,9 +4,9 @@
 // cannot be shown on a line.
 
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "json/document.h"
@@ -43,7 +43,7 @@ class SelectionReader {
   const Value* end_;
   std::string_view typed_;
   /// The keys by which no selection gets beyond an object that was walked over.
-  std::unordered_set<std::string_view> endedKeys_;
+  std::set<std::string_view> endedKeys_;
 };
 
 /// Whether any step goes on from `value`.
