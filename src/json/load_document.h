@@ -14,8 +14,7 @@ namespace kovalt {
 /// JSON value, which is always reported. A number beyond the largest double counts as an error too.
 bool loadDocument(const std::string& path, Document& document, bool reportOpenFailure);
 
-/// As `loadDocument` without a report of a file that cannot be opened, but `document` becomes only what `projection`
-/// keeps of the file. All of it is read and checked.
+/// As `loadDocument`, but `document` becomes only what `projection` keeps of the file. All of it is read and checked.
 bool loadProjected(const std::string& path, const Projection& projection, Document& document,
                    bool reportOpenFailure = false);
 
