@@ -8,27 +8,32 @@ namespace {
 
 using rapidjson::SizeType;
 
-/// Content that becomes part of a document. What takes more than one look is left to the handler.
-struct KeptContent {
-  Document& document;
+/// Content of which the handler parses what takes more than one look.
+struct Content {
   ProjectingHandler& handler;
 
-  bool takeText(InputStream& stream) {
-    const auto text = stream.peekString();
-    if (!text) {
-      return handler.parseScalar(stream);
-    }
-    document.String(text->data(), static_cast<SizeType>(text->size()), true);
-    stream.skip(text->size() + 2);
-    return true;
+  bool takeHard(InputStream& stream) const {
+    InputStream rest = stream;  // Nobody is given the other one, so that its place can stand in a register.
+    const bool parsed = handler.parseScalar(rest);
+    stream = rest;
+    return parsed;
   }
+};
+
+/// Content that becomes part of a document.
+struct KeptContent : Content {
+  Document& document;
+
+  void text(std::string_view text) { document.String(text.data(), static_cast<SizeType>(text.size()), true); }
 
   bool takeOther(InputStream& stream) {
+    const char first = stream.Peek();
+    if (stream.takeLiteral()) {
+      return first == 'n' ? document.Null() : document.Bool(first == 't');
+    }
     const std::size_t length = takeShortNumber(stream.peekText(), document);
     stream.skip(length);
-    return length > 0 || (stream.consume("true") && document.Bool(true)) ||
-           (stream.consume("false") && document.Bool(false)) || (stream.consume("null") && document.Null()) ||
-           handler.parseScalar(stream);
+    return length > 0 || takeHard(stream);
   }
 
   void start(char end) { end == '}' ? document.StartObject() : document.StartArray(); }
@@ -36,24 +41,10 @@ struct KeptContent {
 };
 
 /// Content that is passed over.
-struct PassedContent {
-  ProjectingHandler& handler;
+struct PassedContent : Content {
+  static void text(std::string_view /*text*/) {}
 
-  bool takeText(InputStream& stream) {
-    const auto text = stream.peekString();
-    if (!text) {
-      return handler.parseScalar(stream);
-    }
-    stream.skip(text->size() + 2);
-    return true;
-  }
-
-  bool takeOther(InputStream& stream) {
-    const std::size_t length = stream.peekNumber();
-    stream.skip(length);
-    return length > 0 || stream.consume("true") || stream.consume("false") || stream.consume("null") ||
-           handler.parseScalar(stream);
-  }
+  bool takeOther(InputStream& stream) { return stream.takeNumber() || stream.takeLiteral() || takeHard(stream); }
 
   static void start(char /*end*/) {}
   static void end(char /*end*/, SizeType /*count*/) {}
@@ -92,7 +83,7 @@ bool ProjectingHandler::countNext() {
 }
 
 [[gnu::noinline]] bool ProjectingHandler::start(char end) {
-  KeptContent kept{document_, *this};
+  KeptContent kept{{*this}, document_};
   const bool isKept = countNext();
   if (isKept) {
     kept.start(end);
@@ -104,7 +95,7 @@ bool ProjectingHandler::countNext() {
     }
   }
   mode_ = isKept && projection_.keepsWhole(*next_) ? Mode::whole : Mode::passing;
-  PassedContent passed{*this};
+  PassedContent passed{{*this}};
   const auto count = mode_ == Mode::whole ? takeContent(stream_, end, kept) : takeContent(stream_, end, passed);
   if (count && isKept) {
     kept.end(end, mode_ == Mode::whole ? *count : 0);
@@ -117,7 +108,7 @@ bool ProjectingHandler::end(char end) {
     mode_ = Mode::choosing;
     return true;
   }
-  KeptContent{document_, *this}.end(end, open_.back().kept);
+  KeptContent{{*this}, document_}.end(end, open_.back().kept);
   open_.pop_back();
   if (!open_.empty()) {
     next_ = projection_.elements(open_.back().place);

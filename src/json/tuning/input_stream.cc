@@ -20,10 +20,11 @@ const char* InputBuffer::settle(const char* place) {
 
 const char* InputBuffer::skipBlanks(const char* place) {
   do {
-    place = endOfBlanks<CharacterBlock>(place + 1);
-    if (*place == '\0') {
-      place = settle(place);
+    place = endOfBlanks<CharacterBlock>(place);
+    if (*place != '\0') {
+      return place;
     }
+    place = settle(place);
   } while (isBlank(*place));
   return place;
 }

@@ -27,7 +27,7 @@ class InputBuffer {
   /// next ones and returns the first of them. At the end of the file, that is one of the NUL bytes after its last byte.
   const char* settle(const char* place);
 
-  /// The first character after the blanks that begin at `place`.
+  /// The first character from `place` on that is no blank.
   const char* skipBlanks(const char* place);
 
   /// Whether nothing is left of the file at `place`, to which `settle` came.
@@ -77,24 +77,25 @@ class InputStream {
   void skipBlanks() {
     if (isBlank(*next_)) {
       // Most often it is a single one.
-      next_ = next_[1] > ' ' ? next_ + 1 : buffer_->skipBlanks(next_);
+      next_ = next_[1] > ' ' ? next_ + 1 : buffer_->skipBlanks(next_ + 1);
     }
   }
 
   /// Takes `separator`, with the blanks before and after it. Where something else comes next, takes only the blanks
   /// before it and returns false.
   bool takeSeparator(char separator) {
-    // Most often there are none.
-    if (*next_ == separator && next_[1] > ' ') {
-      ++next_;
-      return true;
+    if (*next_ != separator) {
+      settle();
+      skipBlanks();
     }
-    skipBlanks();
     if (*next_ != separator) {
       return false;
     }
-    Take();
-    skipBlanks();
+    ++next_;
+    if (*next_ <= ' ') {
+      settle();
+      skipBlanks();
+    }
     return true;
   }
 
@@ -111,14 +112,20 @@ class InputStream {
   /// The text between the quote that comes next and the one at the end of a string, if the buffer holds it all and all
   /// of it stands for itself. It is valid until something is taken.
   [[nodiscard]] std::optional<std::string_view> peekString() const {
-    const char* const text = next_ + 1;
-    const char* const end = endOfPlain<CharacterBlock>(text);
-    return *end == '"' ? std::optional(std::string_view(text, static_cast<std::size_t>(end - text))) : std::nullopt;
+    return textUpTo(endOfPlain<CharacterBlock>(next_ + 1));
   }
 
-  /// How long the number is that comes next, without the character after it; 0 if only the reader can tell, because it
-  /// is none, has an exponent, is very long or goes on after the buffer.
-  [[nodiscard]] std::size_t peekNumber() const {
+  /// The same, where the string is short as names are.
+  [[nodiscard]] std::optional<std::string_view> peekName() const {
+    return textUpTo(endOfShortPlain<CharacterBlock>(next_ + 1));
+  }
+
+  /// Takes the string whose text was peeked at. A separator must be taken next.
+  void takeString(std::string_view text) { next_ = text.data() + text.size() + 1; }
+
+  /// Takes the number that comes next, but not if only the reader can tell how long it is: because it is none, has an
+  /// exponent, is very long or goes on after the buffer. Returns whether it was taken; a separator must be taken then.
+  bool takeNumber() {
     const char* const begin = next_ + (*next_ == '-' ? 1 : 0);
     const char* end = *begin == '0' ? begin + 1 : endOfDigits(begin);
     bool isWhole = end != begin;
@@ -127,29 +134,30 @@ class InputStream {
       end = endOfDigits(fraction);
       isWhole &= end != fraction;
     }
-    const auto size = static_cast<std::size_t>(end - next_);
-    return isWhole && *end != '\0' && (*end | 0x20) != 'e' && size < kLongNumber ? size : 0;
+    if (!isWhole || *end == '\0' || (*end | 0x20) == 'e' || end - next_ >= kLongNumber) {
+      return false;
+    }
+    next_ = end;
+    return true;
+  }
+
+  /// Takes true, false or null if the buffer holds it next, and returns whether it does. A separator must be taken
+  /// then. Which one it is decides no branch, as no processor foresees it.
+  bool takeLiteral() {
+    const std::size_t before = *next_ == 'f' ? 1 : 0;
+    const char* const rest = *next_ == 'f' ? "alse" : *next_ == 't' ? "true" : "null";
+    if (std::memcmp(next_ + before, rest, 4) != 0) {
+      return false;
+    }
+    next_ += before + 4;
+    return true;
   }
 
   /// The characters that come next, which end with a NUL character in the buffer.
   [[nodiscard]] const char* peekText() const { return next_; }
 
-  /// Takes `count` characters, which the buffer must hold.
-  void skip(std::size_t count) {
-    next_ += count;
-    settle();
-  }
-
-  /// Takes `text` if the buffer holds it next. Returns whether it does.
-  template <std::size_t kSize>
-  bool consume(const char (&text)[kSize]) {
-    static_assert(kSize - 1 <= CharacterBlock::kSize);
-    if (std::memcmp(next_, text, kSize - 1) != 0) {
-      return false;
-    }
-    skip(kSize - 1);
-    return true;
-  }
+  /// Takes `count` characters, which the buffer must hold. A separator or another character must be taken next.
+  void skip(std::size_t count) { next_ += count; }
 
   /// Named by the reader, but never called.
   static char* PutBegin() { return nullptr; }
@@ -158,13 +166,21 @@ class InputStream {
 
  private:
   /// No number with fewer characters and without an exponent is too large for a double.
-  static constexpr std::size_t kLongNumber = 300;
+  static constexpr std::ptrdiff_t kLongNumber = 300;
+
+  [[nodiscard]] std::optional<std::string_view> textUpTo(const char* end) const {
+    return *end == '"' ? std::optional(std::string_view(next_ + 1, static_cast<std::size_t>(end - next_ - 1)))
+                       : std::nullopt;
+  }
 
   static const char* endOfDigits(const char* text) {
-    while (isDigit(*text)) {
-      ++text;
+    while (true) {
+      for (const char* const block = text + 4; text != block; ++text) {
+        if (!isDigit(*text)) {
+          return text;
+        }
+      }
     }
-    return text;
   }
 
   void settle() {
