@@ -174,6 +174,7 @@ class InputStream {
   }
 
   static const char* endOfDigits(const char* text) {
+    // Four in a row without a jump back take a tenth off the time of reading coordinates.
     while (true) {
       for (const char* const block = text + 4; text != block; ++text) {
         if (!isDigit(*text)) {
