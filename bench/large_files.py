@@ -56,9 +56,7 @@ def read(m, record, peers, name, kind, work, megabytes):
     if megabytes == SIZES[0]:
         calls += peers.debian("gron", f"gron {name}", rounds=1)
         calls += peers.debian("yq", f"yq .meta.version {name}", rounds=1)
-    # Of a call on the smallest file a seventh is the start of the process, which has a bound of its own.
-    bound = MOST_READ_TIME[kind] if megabytes > SIZES[0] else None
-    calls.insert(1, Call("bare parse", f"{m.bare} load {name}", time_bound=bound, reference=True))
+    calls.insert(1, Call("bare parse", f"{m.bare} load {name}", time_bound=MOST_READ_TIME[kind], reference=True))
     calls.append(Call("cat, which only copies", f"cat {name}", rounds=3, reference=True))
     record.compare(READ, work, calls, size=m.size(name), memory_at_most=MOST_READ_MEMORY)
 
