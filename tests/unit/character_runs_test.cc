@@ -73,7 +73,7 @@ TYPED_TEST(CharacterRuns, GoOnOverEachCharacterOfTheirKindWhateverStandsBesideIt
   }
 }
 
-TYPED_TEST(CharacterRuns, AreCopiedUpToEachCharacterThatEndsThem) {
+TEST(CharacterRun, IsCopiedUpToEachCharacterThatEndsIt) {
   for (int code = 0; code < 256; ++code) {
     for (std::size_t size = 1; size < 40; ++size) {
       for (std::size_t place = 0; place < size; ++place) {
@@ -81,13 +81,13 @@ TYPED_TEST(CharacterRuns, AreCopiedUpToEachCharacterThatEndsThem) {
         std::vector<char> text(size, 'a');
         text[place] = static_cast<char>(code);
         std::vector<char> copy(size, '-');
-        const std::size_t copied = copyPlain<TypeParam>(text.data(), size, copy.data());
+        const std::size_t copied = copyPlain(text.data(), size, copy.data());
         ASSERT_EQ(copied, standsForItself(code) ? size : place) << code << ' ' << size << ' ' << place;
         ASSERT_TRUE(std::equal(copy.data(), copy.data() + copied, text.data())) << code << ' ' << size << ' ' << place;
       }
     }
   }
-  EXPECT_EQ(copyPlain<TypeParam>(nullptr, 0, nullptr), 0U);
+  EXPECT_EQ(copyPlain(nullptr, 0, nullptr), 0U);
 }
 
 }  // namespace

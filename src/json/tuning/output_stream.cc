@@ -6,7 +6,7 @@ void OutputStream::putRest(std::string_view text) {
   while (!text.empty()) {
     makeRoom();
     const auto room = static_cast<std::size_t>(buffer_ + kPiece + kRoom - end_);
-    const std::size_t plain = copyPlain<CharacterBlock>(text.data(), std::min(text.size(), room), end_);
+    const std::size_t plain = copyPlain(text.data(), std::min(text.size(), room), end_);
     end_ += plain;
     text.remove_prefix(plain);
     if (!text.empty() && !isPlain(text.front())) {

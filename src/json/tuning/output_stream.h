@@ -68,7 +68,7 @@ class OutputStream {
   void putString(std::string_view text) {
     makeRoom();
     *end_ = '"';
-    if (text.size() <= kShort && copyPlain<CharacterBlock>(text.data(), text.size(), end_ + 1) == text.size()) {
+    if (text.size() <= kShort && copyPlain(text.data(), text.size(), end_ + 1) == text.size()) {
       end_ += text.size() + 1;
       *end_++ = '"';
     } else {
