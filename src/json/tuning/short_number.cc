@@ -1,6 +1,5 @@
 #include "json/tuning/short_number.h"
 
-#include <array>
 #include <cstdint>
 
 #include "json/tuning/character_runs.h"
@@ -8,46 +7,52 @@
 namespace kovalt {
 namespace {
 
-constexpr std::size_t kMostDigits = 15;
+constexpr std::size_t kMostDigits = 19;
+constexpr std::uint64_t kTenToThe16 = 10000000000000000;
+constexpr std::uint64_t kTenToThe17 = 10 * kTenToThe16;
+constexpr std::uint64_t kPowersOfTen[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
 
-constexpr std::array<std::uint64_t, kMostDigits> kPowersOfTen = [] {
-  std::array<std::uint64_t, kMostDigits> powers{1};
-  for (std::size_t i = 1; i < powers.size(); ++i) {
-    powers[i] = powers[i - 1] * 10;
+/// Reads the digits at `text`, of which `value` gets each as its last one, and returns their end.
+const char* readDigits(const char* text, std::uint64_t& value) {
+  WordBlock::Digits block{WordBlock::kSize, 0};
+  while (block.count == WordBlock::kSize) {
+    block = WordBlock::readDigits(text);
+    value = value * kPowersOfTen[block.count] + block.value;
+    text += block.count;
   }
-  return powers;
-}();
+  return text;
+}
+
+/// The double with up to seventeen digits. From 2^53 on RapidJSON multiplies for the next digit, and may round twice.
+double toDouble(std::uint64_t digits) {
+  constexpr std::uint64_t kLargestExact = (std::uint64_t{1} << 53) - 1;
+  const std::uint64_t allButLast = digits / 10;
+  if (digits < kTenToThe16 || allButLast <= kLargestExact) {
+    return static_cast<double>(digits);
+  }
+  return static_cast<double>(allButLast) * 10.0 + static_cast<double>(digits % 10);
+}
 
 }  // namespace
 
 std::size_t takeShortNumber(const char* text, Document& document) {
   const bool isNegative = *text == '-';
-  const char* const begin = text + (isNegative ? 1 : 0);
-  const char* end = begin;
-  const auto readRun = [&] {
-    WordBlock::Digits run = WordBlock::readDigits(end);
-    end += run.count;
-    if (run.count == WordBlock::kSize) {
-      const WordBlock::Digits rest = WordBlock::readDigits(end);
-      end += rest.count;
-      run = {run.count + rest.count, run.value * kPowersOfTen[rest.count] + rest.value};
-    }
-    return run;
-  };
-  const WordBlock::Digits whole = readRun();
-  const bool isInteger = *end != '.';
-  end += isInteger ? 0 : 1;
-  const WordBlock::Digits decimals = isInteger ? WordBlock::Digits{0, 0} : readRun();
-  if (whole.count == 0 || (*begin == '0' && whole.count > 1) || (decimals.count == 0 && !isInteger) ||
-      whole.count + decimals.count > kMostDigits || *end == '\0' || (*end | 0x20) == 'e') {
+  const char* const whole = text + (isNegative ? 1 : 0);
+  std::uint64_t digits = 0;
+  const char* const point = readDigits(whole, digits);
+  const bool isInteger = *point != '.';
+  const char* const fraction = point + (isInteger ? 0 : 1);
+  const char* const end = isInteger ? point : readDigits(fraction, digits);
+  const auto count = static_cast<std::size_t>((point - whole) + (end - fraction));
+  if (point == whole || (*whole == '0' && point > whole + 1) || (fraction == end && !isInteger) ||
+      count > kMostDigits || digits >= kTenToThe17 || *end == '\0' || (*end | 0x20) == 'e') {
     return 0;
   }
-  const std::uint64_t digits = whole.value * kPowersOfTen[decimals.count] + decimals.value;
   if (isInteger) {
     isNegative ? document.Int64(-static_cast<std::int64_t>(digits)) : document.Uint64(digits);
   } else {
     const double value =
-        rapidjson::internal::StrtodNormalPrecision(static_cast<double>(digits), -static_cast<int>(decimals.count));
+        rapidjson::internal::StrtodNormalPrecision(toDouble(digits), -static_cast<int>(end - fraction));
     document.Double(isNegative ? -value : value);
   }
   return static_cast<std::size_t>(end - text);
