@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "json/projecting_handler.h"
+#include "json/projected_parse.h"
 #include "json/standard_streams.h"
 #include "json/tuning/input_stream.h"
 
@@ -12,12 +12,8 @@ namespace {
 bool parse(std::FILE* file, const Projection& projection, Document& document) {
   InputBuffer buffer(file);
   InputStream stream(buffer);
-  ProjectingHandler handler(projection, stream, document);
   bool parsed = false;
-  auto generate = [&](Document& /*document*/) {
-    parsed = handler.parse();
-    return parsed;
-  };
+  auto generate = [&](Document& /*document*/) { return parsed = parseProjected(stream, projection, document); };
   document.Populate(generate);
   return parsed;
 }

@@ -70,8 +70,12 @@ class InputStream {
   /// How many characters were taken.
   [[nodiscard]] std::size_t Tell() const { return buffer_->offset(next_); }
 
-  /// Whether nothing is left. A NUL character is content like any other.
-  [[nodiscard]] bool isAtEnd() const { return buffer_->isEnd(next_); }
+  /// Takes all blanks that come next. Returns whether nothing is left; a NUL character is content like any other.
+  bool takeEnd() {
+    settle();
+    skipBlanks();
+    return buffer_->isEnd(next_);
+  }
 
   /// Takes all blanks that come next.
   void skipBlanks() {
@@ -99,13 +103,18 @@ class InputStream {
     return true;
   }
 
-  /// Takes characters that stand for themselves in a string and hands them to `take`: up to one that does not, or as
-  /// many as the buffer holds.
-  template <typename Take>
-  void takePlain(Take take) {
-    const char* const end = endOfPlain<CharacterBlock>(next_);
-    take(std::string_view(next_, static_cast<std::size_t>(end - next_)));
-    next_ = end;
+  /// The characters that come next and stand for themselves in a string: up to one that does not, or as many as the
+  /// buffer holds. They are valid until something is taken.
+  [[nodiscard]] std::string_view peekPlain() const {
+    return {next_, static_cast<std::size_t>(endOfPlain<CharacterBlock>(next_) - next_)};
+  }
+
+  /// The characters that come next, which end with a NUL character in the buffer.
+  [[nodiscard]] const char* peekText() const { return next_; }
+
+  /// Takes `count` characters that the buffer holds.
+  void skip(std::size_t count) {
+    next_ += count;
     settle();
   }
 
@@ -123,9 +132,28 @@ class InputStream {
   /// Takes the string whose text was peeked at. A separator must be taken next.
   void takeString(std::string_view text) { next_ = text.data() + text.size() + 1; }
 
+  /// Takes the string that comes next, if the buffer holds it all and it is right. Returns whether it was taken; a
+  /// separator must be taken then.
+  bool passString() {
+    const char* end = endOfPlain<CharacterBlock>(next_ + 1);
+    while (*end == '\\') {
+      const bool isSingle = std::string_view("\"\\/bfnrt").find(end[1]) != std::string_view::npos;
+      const std::size_t length = isSingle ? 2 : unicodeEscapeLength(end);
+      if (length == 0) {
+        return false;
+      }
+      end = endOfPlain<CharacterBlock>(end + length);
+    }
+    if (*end != '"') {
+      return false;
+    }
+    next_ = end + 1;
+    return true;
+  }
+
   /// Takes the number that comes next, but not if only the reader can tell how long it is: because it is none, has an
   /// exponent, is very long or goes on after the buffer. Returns whether it was taken; a separator must be taken then.
-  bool takeNumber() {
+  bool passNumber() {
     const char* const begin = next_ + (*next_ == '-' ? 1 : 0);
     const char* end = *begin == '0' ? begin + 1 : endOfDigits(begin);
     bool isWhole = end != begin;
@@ -153,12 +181,6 @@ class InputStream {
     return true;
   }
 
-  /// The characters that come next, which end with a NUL character in the buffer.
-  [[nodiscard]] const char* peekText() const { return next_; }
-
-  /// Takes `count` characters, which the buffer must hold. A separator or another character must be taken next.
-  void skip(std::size_t count) { next_ += count; }
-
   /// Named by the reader, but never called.
   static char* PutBegin() { return nullptr; }
   static std::size_t PutEnd(char* /*begin*/) { return 0; }
@@ -172,6 +194,10 @@ class InputStream {
     return *end == '"' ? std::optional(std::string_view(next_ + 1, static_cast<std::size_t>(end - next_ - 1)))
                        : std::nullopt;
   }
+
+  /// The length of the escape of four hexadecimal digits at `text`, with the one after it where both stand for one
+  /// character; 0 if it is none.
+  static std::size_t unicodeEscapeLength(const char* text);
 
   static const char* endOfDigits(const char* text) {
     // Four in a row without a jump back take a tenth off the time of reading coordinates.

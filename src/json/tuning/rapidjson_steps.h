@@ -32,14 +32,6 @@ bool putNumber(Stream& stream, Write write) {
   return true;
 }
 
-class ProjectingHandler;
-
-/// Takes the text of a string that is passed over.
-class PassedText {
- public:
-  static void Put(char /*character*/) {}
-};
-
 }  // namespace kovalt
 
 namespace rapidjson {
@@ -47,43 +39,18 @@ namespace rapidjson {
 static_assert(RAPIDJSON_MAJOR_VERSION == 1 && RAPIDJSON_MINOR_VERSION == 1 && RAPIDJSON_PATCH_VERSION == 0,
               "the steps below take the place of those of RapidJSON 1.1.0");
 
-/// The reader works on a copy of the stream where it takes a number: its place then stands in a register.
-template <>
-struct StreamTraits<kovalt::InputStream> {
-  enum { copyOptimization = 1 };
-};
-
-/// How the reader comes to the next token.
-template <>
-inline void SkipWhitespace(kovalt::InputStream& is) {
-  is.skipBlanks();
-}
-
 /// The step of the reader that takes those characters of a string which need no look at each. It may leave any of them,
 /// of which the reader then takes one by itself.
 template <>
 template <>
 inline void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanCopyUnescapedString(
     kovalt::InputStream& stream, StackStream<char>& text) {
-  stream.takePlain([&text](std::string_view run) {
-    if (!run.empty()) {
-      std::memcpy(text.Push(static_cast<SizeType>(run.size())), run.data(), run.size());
-    }
-  });
+  const std::string_view run = stream.peekPlain();
+  if (!run.empty()) {
+    std::memcpy(text.Push(static_cast<SizeType>(run.size())), run.data(), run.size());
+  }
+  stream.skip(run.size());
 }
-template <>
-template <>
-inline void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ScanCopyUnescapedString(
-    kovalt::InputStream& stream, kovalt::PassedText& /*text*/) {
-  stream.takePlain([](std::string_view /*run*/) {});
-}
-
-/// How the reader takes a string for a load: as it stands in the stream's buffer, where it can be, and without keeping
-/// its text, where it is passed over. The flag is the one that loads use.
-template <>
-template <>
-void GenericReader<UTF8<>, UTF8<>, kovalt::AbortingAllocator>::ParseString<kParseStopWhenDoneFlag>(
-    kovalt::InputStream& is, kovalt::ProjectingHandler& handler, bool isKey);
 
 /// How the pretty writer indents.
 template <>
