@@ -157,13 +157,17 @@ class InputStream {
   bool passNumber() {
     const char* const begin = next_ + (*next_ == '-' ? 1 : 0);
     const char* end = *begin == '0' ? begin + 1 : endOfDigits(begin);
-    bool isWhole = end != begin;
+    if (end == begin) {
+      return false;
+    }
     if (*end == '.') {
       const char* const fraction = end + 1;
       end = endOfDigits(fraction);
-      isWhole &= end != fraction;
+      if (end == fraction) {
+        return false;
+      }
     }
-    if (!isWhole || *end == '\0' || (*end | 0x20) == 'e' || end - next_ >= kLongNumber) {
+    if (*end == '\0' || (*end | 0x20) == 'e' || end - next_ >= kLongNumber) {
       return false;
     }
     next_ = end;
