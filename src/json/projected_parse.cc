@@ -85,7 +85,8 @@ class PassedContent : public Content<PassedContent> {
  public:
   using Content::Content;
 
-  bool takeString(InputStream& stream) { return stream.passString() || takeByReader(stream); }
+  static bool takeName(InputStream& stream) { return stream.passName(); }
+  static bool takeString(InputStream& stream) { return stream.passString(); }
   bool takeOther(InputStream& stream) { return stream.passNumber() || stream.takeLiteral() || takeByReader(stream); }
 
   static bool start(char /*start*/) { return true; }

@@ -9,7 +9,7 @@
 namespace kovalt::test {
 namespace {
 
-/// Both kinds of blocks, where the compiler knows both: the program only uses one.
+/// Both kinds of blocks, where the compiler knows both.
 template <typename Block>
 class CharacterRuns : public testing::Test {};
 
@@ -69,6 +69,21 @@ TYPED_TEST(CharacterRuns, GoOnOverEachCharacterOfTheirKindWhateverStandsBesideIt
       }
       EXPECT_EQ(endOfPlain<TypeParam>(text.data()), text.data() + plain) << code;
       EXPECT_EQ(endOfBlanks<TypeParam>(text.data()), text.data() + blanks) << code;
+    }
+  }
+}
+
+TYPED_TEST(CharacterRuns, AreCopiedInBlocksUpToEachCharacterThatEndsThem) {
+  for (const char end : {'"', '\\', '\x1F', ' '}) {
+    for (std::size_t size = TypeParam::kSize; size < 4 * TypeParam::kSize; ++size) {
+      for (std::size_t place = 0; place < size; ++place) {
+        std::vector<char> text(size, 'a');
+        text[place] = end;
+        std::vector<char> copy(size, '-');
+        const std::size_t copied = copyPlainBlocks<TypeParam>(text.data(), size, copy.data());
+        ASSERT_EQ(copied, end == ' ' ? size : place) << end << ' ' << size << ' ' << place;
+        ASSERT_TRUE(std::equal(copy.data(), copy.data() + copied, text.data())) << end << ' ' << size << ' ' << place;
+      }
     }
   }
 }

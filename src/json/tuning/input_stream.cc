@@ -1,6 +1,5 @@
 #include "json/tuning/input_stream.h"
 
-#include <charconv>
 #include <cstring>
 
 namespace kovalt {
@@ -36,19 +35,51 @@ void InputBuffer::fill() {
   end_ = bytes_ + size;
 }
 
-std::size_t InputStream::unicodeEscapeLength(const char* text) {
-  const auto readUnit = [](const char* escape, unsigned& unit) {
-    return escape[0] == '\\' && escape[1] == 'u' && std::from_chars(escape + 2, escape + 6, unit, 16).ptr == escape + 6;
-  };
-  unsigned unit = 0;
-  unsigned low = 0;
-  if (!readUnit(text, unit)) {
-    return 0;
+bool InputStream::passHardRest() {
+  settle();
+  while (*next_ != '"') {
+    const bool isEscape = *next_ == '\\';
+    if (!isEscape && !isPlain(*next_)) {
+      return false;
+    }
+    Take();
+    if (isEscape && !passEscape()) {
+      return false;
+    }
+    next_ = endOfPlain<CharacterBlock>(next_);
+    settle();
   }
+  ++next_;
+  return true;
+}
+
+bool InputStream::passEscape() {
+  const char kind = Take();
+  if (kind != 'u') {
+    return std::string_view("\"\\/bfnrt").find(kind) != std::string_view::npos;
+  }
+  const unsigned unit = takeUnit();
   if (unit < 0xD800 || unit > 0xDBFF) {
-    return 6;
+    return unit <= 0xFFFF;
   }
-  return readUnit(text + 6, low) && low >= 0xDC00 && low <= 0xDFFF ? 12 : 0;
+  // Two of them stand for one character.
+  if (Take() != '\\' || Take() != 'u') {
+    return false;
+  }
+  const unsigned low = takeUnit();
+  return low >= 0xDC00 && low <= 0xDFFF;
+}
+
+unsigned InputStream::takeUnit() {
+  unsigned unit = 0;
+  for (int i = 0; i < 4; ++i) {
+    const std::size_t digit = std::string_view("0123456789abcdefABCDEF").find(Take());
+    if (digit == std::string_view::npos) {
+      return 0x10000;
+    }
+    unit = unit * 16 + static_cast<unsigned>(digit < 16 ? digit : digit - 6);
+  }
+  return unit;
 }
 
 }  // namespace kovalt

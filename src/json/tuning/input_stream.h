@@ -133,24 +133,12 @@ class InputStream {
   /// Takes the string whose text was peeked at. A separator must be taken next.
   void takeString(std::string_view text) { next_ = text.data() + text.size() + 1; }
 
-  /// Takes the string that comes next, if the buffer holds it all and it is right. Returns whether it was taken; a
+  /// Takes the string that comes next, of any length, and keeps none of it. Returns false where there is none. A
   /// separator must be taken then.
-  bool passString() {
-    const char* end = endOfPlain<CharacterBlock>(next_ + 1);
-    while (*end == '\\') {
-      const bool isSingle = std::string_view("\"\\/bfnrt").find(end[1]) != std::string_view::npos;
-      const std::size_t length = isSingle ? 2 : unicodeEscapeLength(end);
-      if (length == 0) {
-        return false;
-      }
-      end = endOfPlain<CharacterBlock>(end + length);
-    }
-    if (*end != '"') {
-      return false;
-    }
-    next_ = end + 1;
-    return true;
-  }
+  bool passString() { return passRest(endOfPlain<CharacterBlock>(next_ + 1)); }
+
+  /// The same, where the string is short as names are.
+  bool passName() { return passRest(endOfShortPlain<CharacterBlock>(next_ + 1)); }
 
   /// Takes the number that comes next, but not if only the reader can tell how long it is: because it is none, has an
   /// exponent, is very long or goes on after the buffer. Returns whether it was taken; a separator must be taken then.
@@ -200,9 +188,23 @@ class InputStream {
                        : std::nullopt;
   }
 
-  /// The length of the escape of four hexadecimal digits at `text`, with the one after it where both stand for one
-  /// character; 0 if it is none.
-  static std::size_t unicodeEscapeLength(const char* text);
+  /// Takes the rest of a string, of which the characters before `end` stand for themselves.
+  bool passRest(const char* end) {
+    next_ = end;
+    if (*end != '"') {
+      return passHardRest();
+    }
+    ++next_;
+    return true;
+  }
+
+  bool passHardRest();
+
+  /// Takes an escape, whose backslash was taken. Returns whether it is one.
+  bool passEscape();
+
+  /// Takes four hexadecimal digits. Returns what they mean, and more than that where there are none.
+  unsigned takeUnit();
 
   static const char* endOfDigits(const char* text) {
     // Four in a row without a jump back take a tenth off the time of reading coordinates.
