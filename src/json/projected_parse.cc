@@ -28,7 +28,7 @@ class Content : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Handler> 
 
  protected:
   bool takeByReader(InputStream& stream) {
-    InputStream rest = stream;  // Nobody is given the other one, so that its place can stand in a register.
+    InputStream rest = stream;  // The reader is given a copy, so that the place of the other can stand in a register.
     const bool parsed = !reader_.Parse<rapidjson::kParseStopWhenDoneFlag>(rest, handler()).IsError();
     stream = rest;
     return parsed;
