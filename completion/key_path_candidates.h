@@ -15,8 +15,8 @@ namespace kovalt {
 /// one that can go on itself ends in ".". Of an array with very many objects only the keys to select by are offered,
 /// and such a candidate ends in "=".
 ///
-/// Not offered is what no key path reaches, names and values that hold a ".", an object after one that the selection
-/// stops at, a second member of the same name, and what cannot be shown on a line: empty names and control characters.
+/// Not offered: what no key path reaches (names and values that hold a ".", an object after one that the selection
+/// stops at, a second member of the same name), empty names, and names and values that a terminal cannot show.
 CandidateList keyPathCandidates(const std::vector<const Value*>& roots, std::string_view word, KeyPathUse use);
 
 /// The elements of the array that `keyPath` names; none where it names no array.

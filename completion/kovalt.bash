@@ -5,32 +5,43 @@
 _kovalt_helper=${BASH_SOURCE[0]%/*}/@KOVALT_COMPLETE@
 [[ $_kovalt_helper == /* ]] || _kovalt_helper=$PWD/$_kovalt_helper
 
-# Sets `value` to the text that the word $1 stands for, and `quote` to the quote that it leaves open. Nothing is run for
-# it: of all expansions only a home folder and plain variables are known.
+# Reads the word $1, which may end at the cursor. Sets
+# - `value` to what bash makes of it, `quote` to the quote that it leaves open, `inside` to what is typed after that quote,
+#   and `escape` to a backslash at its end;
+# - `unclear` if bash could expand it together with what is inserted after it, or if it is or follows an expansion in which
+#   quotes have other rules (`lost`).
+# Runs nothing: it expands only a home folder and plain variables.
 _kovalt_unquote() {
   local rest=$1 char
-  value='' quote=''
+  value='' quote='' inside='' escape='' unclear=$lost
   if [[ $rest =~ ^(\~([a-zA-Z_][a-zA-Z_0-9.-]*)?)(/|$) ]]; then
-    # Nothing but a user's name is evaluated; it stays as it is where there is no such user.
-    rest=${rest:${#BASH_REMATCH[1]}}
+    # This evaluates only a user's name, and keeps it if there is no such user.
+    rest=${rest:${#BASH_REMATCH[1]}} unclear=1
     eval "value=${BASH_REMATCH[1]}"
   fi
   while [[ $rest ]]; do
     char=${rest:0:1} rest=${rest:1}
     case $quote$char in
-      \' | \" | \'\' | \"\") [[ $quote ]] && quote='' || quote=$char ;;
+      \' | \" | \'\' | \"\") [[ $quote ]] && quote='' || quote=$char inside=$rest ;;
       \\ | \"\\)
-        # Between double quotes a backslash is itself, but for a few characters.
-        [[ $quote && $rest != [\$\`\"\\]* ]] && value+=$char
+        [[ $rest ]] || escape=\\
+        # Between double quotes a backslash is itself, except before a few characters.
+        [[ $rest && $quote && $rest != [\$\`\"\\]* ]] && value+=$char
         value+=${rest:0:1} rest=${rest:1}
         ;;
       \$ | \"\$)
         if [[ $rest =~ ^([a-zA-Z_][a-zA-Z_0-9]*) || $rest =~ ^\{([a-zA-Z_][a-zA-Z_0-9]*)\} ]]; then
           rest=${rest:${#BASH_REMATCH[0]}}
           char=${BASH_REMATCH[1]} char=${!char-}
+          [[ $rest ]] || unclear=1
+        else
+          unclear=1
+          [[ $rest != [\(\{\[\']* ]] || lost=1
         fi
         value+=$char
         ;;
+      \` | \"\`) value+=$char unclear=1 lost=1 ;;
+      [~*?[\{\#"$history"]) value+=$char unclear=1 ;;
       *) value+=$char ;;
     esac
   done
@@ -38,25 +49,38 @@ _kovalt_unquote() {
 
 # Sets `quoted` to the text $1 as it is typed after the quote that is left open.
 _kovalt_quote() {
+  local i char special
+  quoted=$1
   case $quote in
-    \') quoted=${1//\'/"'\\''"} ;;
-    \")
-      quoted=${1//\\/\\\\}
-      quoted=${quoted//\"/'\"'}
-      quoted=${quoted//\$/'\$'}
-      quoted=${quoted//\`/'\`'}
-      ;;
-    *) printf -v quoted %q "$1" ;;
+    \') special='' quoted=${quoted//\'/"'\\''"} ;;
+    \") special='\"$`' ;;
+    *) special=$'\\ !"#$&\'()*,;<>?[]^`{|}~' ;;
   esac
-  [[ $1 ]] || quoted=''
+  for ((i = 0; i < ${#special}; ++i)); do
+    char=${special:i:1}
+    quoted=${quoted//"$char"/"\\$char"}
+  done
 }
 
 # Sets `candidates` to what can stand for the word at the cursor of `line`, and `kind` to what it is.
+#
+# The names in a file come from somebody else, and none may become anything that bash runs or expands. _kovalt_quote takes
+# care of that, with exceptions. Names are left out
+# - with a history character, between double quotes, where nothing escapes it, and everywhere if it is not "!";
+# - with letters beyond ASCII if the locale is not UTF-8: bash may see special characters in their bytes, or miss some;
+# - behind an unclear word: all names.
 _kovalt_ask() {
-  mapfile -t candidates < <("$_kovalt_helper" "$cword" "${line[@]}" 2>/dev/null)
-  kind=${candidates[0]-}
-  candidates=("${candidates[@]:1}")
-  candidates=("${candidates[@]%%$'\t'*}")
+  local answer candidate letter
+  mapfile -t answer < <("$_kovalt_helper" "$cword" "${line[@]}" 2>/dev/null)
+  kind=${answer[0]-}
+  candidates=()
+  printf -v letter '\u00e9'
+  for candidate in "${answer[@]:1}"; do
+    candidate=${candidate%%$'\t'*}
+    [[ $unclear ||
+      $candidate == *"$history"* && ($quote == \" || $history != !) ||
+      $candidate == *[![:ascii:]]* && $letter != $'\xc3\xa9' ]] || candidates+=("$candidate")
+  done
 }
 
 _kovalt() {
@@ -64,14 +88,17 @@ _kovalt() {
   local cur prev words cword
   _init_completion -n '=:@' || return
 
-  local word value quote quoted kind
+  local word value typed quote inside escape unclear lost='' quoted kind start history=${histchars:-!}
   local -a line=() candidates=()
+  history=${history:0:1}
   for word in "${words[@]}"; do
     _kovalt_unquote "$word"
     line+=("$value")
   done
   _kovalt_unquote "$cur"
   line[cword]=$value
+  # With insert-completions the line editor removes the open quote.
+  [[ $quote && $COMP_TYPE == 42 ]] && return
 
   # The line editor replaces no more than $2, which begins after the last quote, "=" or ":".
   local kept=${cur:0:${#cur}-${#2}}
@@ -92,22 +119,30 @@ _kovalt() {
     fi
   fi
 
-  # What is typed stays as it is quoted, but for a backslash that quotes nothing yet.
-  local typed=${cur:${#kept}}
-  [[ $quote || $cur != *\\ || $cur == *\\\\ ]] || typed=${typed%\\}
+  # What is typed stays as it is. Behind a command such as sudo, $2 is too long if a quote is open.
+  [[ $quote ]] && typed=$inside || typed=$2
+  typed=${typed%"$escape"}
   for word in "${candidates[@]}"; do
     _kovalt_quote "${word:${#value}}"
-    COMPREPLY+=("$typed$quoted")
+    # A candidate that begins with the open quote is left out: the line editor would merge the two.
+    [[ $quote && $typed$quoted == "$quote"* ]] || COMPREPLY+=("$typed$quoted")
   done
-  if ((${#COMPREPLY[@]} == 1)); then
-    # The line editor forgets to close a quote after a name that ends in one.
-    COMPREPLY[0]+=$quote
-  elif [[ $kind == 'words cut' && $COMP_TYPE == @(33|63|64) ]]; then
-    # Only where the candidates are listed: nothing is inserted then but what all of them begin with.
-    local start=${COMPREPLY[0]}
+  if ((${#COMPREPLY[@]} == 1 || COMP_TYPE == 37)); then
+    # The candidate is inserted, or with menu-complete each in turn. The line editor does not close a quote after a name
+    # that ends in one.
+    COMPREPLY=("${COMPREPLY[@]/%/"$quote"}")
+  elif ((${#COMPREPLY[@]})); then
+    # Several candidates: the line editor inserts what all of them begin with.
+    start=${COMPREPLY[0]}
     for word in "${COMPREPLY[@]}"; do
       while [[ $word != "$start"* ]]; do start=${start%?}; done
     done
-    COMPREPLY+=("$start (the list is cut)")
+    if [[ $quote != \' && $start =~ (^|[^\\])(\\\\)*\\$ ]]; then
+      # It must not end in half an escape, so the text before that becomes a candidate, too.
+      start=${start%?}
+      COMPREPLY+=("$start")
+    fi
+    # The line is added only where the candidates are listed and it is not inserted.
+    [[ $kind != 'words cut' || $COMP_TYPE != @(33|63|64) ]] || COMPREPLY+=("$start (the list is cut)")
   fi
 } && complete -F _kovalt Kovalt kovalt

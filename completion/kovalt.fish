@@ -42,6 +42,11 @@ function __kovalt_complete
     set --append line (__kovalt_expand "$token" "$typed" | string collect --allow-empty)
 
     set -l candidates ($__kovalt_helper (count $before) $line 2>/dev/null)
+    # The names in a file come from somebody else, and none may become anything that fish runs or expands. fish escapes
+    # what it inserts, except for a "~" at the start of a word: names that begin with one are left out there.
+    if test -z "$token"
+        set candidates (string match --invert -- '~*' $candidates)
+    end
     if test "$candidates[1]" = files
         # A command that is unknown is completed with file names.
         complete --do-complete "__kovalt_files $token"

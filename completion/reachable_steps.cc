@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "completion/shown_text.h"
 #include "completion/starts_with.h"
 #include "json/ref_value.h"
 #include "json/text_value.h"
@@ -10,12 +11,7 @@
 namespace kovalt {
 namespace {
 
-bool canStandInStep(std::string_view text) {
-  return std::none_of(text.begin(), text.end(), [](char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return c == '.' || byte < 0x20 || byte == 0x7F;
-  });
-}
+bool canStandInStep(std::string_view text) { return text.find('.') == std::string_view::npos && canBeShown(text); }
 
 bool isMemberStep(std::string_view name, KeyPathUse use) {
   const bool readAsSelection = use.selects && name.find('=') != std::string_view::npos;

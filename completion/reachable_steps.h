@@ -1,7 +1,7 @@
 #pragma once
 
-// The steps by which a key path goes on from a value. Not offered is what no step reaches, what holds a ".", and what
-// cannot be shown on a line.
+// The steps by which a key path goes on from a value. Not offered: what no step reaches, what holds a ".", and what a
+// terminal cannot show.
 
 #include <optional>
 #include <set>
