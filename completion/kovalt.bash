@@ -5,45 +5,55 @@
 _kovalt_helper=${BASH_SOURCE[0]%/*}/@KOVALT_COMPLETE@
 [[ $_kovalt_helper == /* ]] || _kovalt_helper=$PWD/$_kovalt_helper
 
-# Reads the word $1, which may end at the cursor. Sets
+# Reads $1, the next part of the command line. Appends to `line` what bash makes of the words that end there, except those
+# that a redirection names. Sets for the last word:
+# - `begun` if there is any of it, `redirected` if it names the file of a redirection;
 # - `value` to what bash makes of it, `quote` to the quote that it leaves open, `inside` to what is typed after that quote,
 #   and `escape` to a backslash at its end;
 # - `unclear` if bash could expand it together with what is inserted after it, or if it is or follows an expansion in which
 #   quotes have other rules (`lost`).
 # Runs nothing: it expands only a home folder and plain variables.
-_kovalt_unquote() {
+_kovalt_read() {
   local rest=$1 char
-  value='' quote='' inside='' escape='' unclear=$lost
-  if [[ $rest =~ ^(\~([a-zA-Z_][a-zA-Z_0-9.-]*)?)(/|$) ]]; then
-    # This evaluates only a user's name, and keeps it if there is no such user.
-    rest=${rest:${#BASH_REMATCH[1]}} unclear=1
-    eval "value=${BASH_REMATCH[1]}"
-  fi
   while [[ $rest ]]; do
-    char=${rest:0:1} rest=${rest:1}
-    case $quote$char in
-      \' | \" | \'\' | \"\") [[ $quote ]] && quote='' || quote=$char inside=$rest ;;
-      \\ | \"\\)
-        [[ $rest ]] || escape=\\
-        # Between double quotes a backslash is itself, except before a few characters.
-        [[ $rest && $quote && $rest != [\$\`\"\\]* ]] && value+=$char
-        value+=${rest:0:1} rest=${rest:1}
-        ;;
-      \$ | \"\$)
-        if [[ $rest =~ ^([a-zA-Z_][a-zA-Z_0-9]*) || $rest =~ ^\{([a-zA-Z_][a-zA-Z_0-9]*)\} ]]; then
-          rest=${rest:${#BASH_REMATCH[0]}}
-          char=${BASH_REMATCH[1]} char=${!char-}
-          [[ $rest ]] || unclear=1
-        else
-          unclear=1
-          [[ $rest != [\(\{\[\']* ]] || lost=1
-        fi
-        value+=$char
-        ;;
-      \` | \"\`) value+=$char unclear=1 lost=1 ;;
-      [~*?[\{\#"$history"]) value+=$char unclear=1 ;;
-      *) value+=$char ;;
-    esac
+    if [[ ! $quote && $rest == [[:blank:]\<\>]* ]]; then
+      if [[ $begun ]]; then
+        # A number directly before "<" or ">" belongs to the redirection.
+        [[ $redirected || $rest == [\<\>]* && $value == +([0-9]) ]] || line+=("$value")
+        redirected=''
+      fi
+      [[ $rest == [[:blank:]]* ]] || redirected=1
+      begun='' value='' unclear=$lost rest=${rest:1}
+    elif [[ ! $begun && $rest =~ ^(\~([a-zA-Z_][a-zA-Z_0-9.-]*)?)(/|[[:blank:]]|$) ]]; then
+      # This evaluates only a user's name, and keeps it if there is no such user.
+      rest=${rest:${#BASH_REMATCH[1]}} begun=1 unclear=1
+      eval "value=${BASH_REMATCH[1]}"
+    else
+      char=${rest:0:1} rest=${rest:1} begun=1
+      case $quote$char in
+        \' | \" | \'\' | \"\") [[ $quote ]] && quote='' || quote=$char inside=$rest ;;
+        \\ | \"\\)
+          [[ $rest ]] || escape=\\
+          # Between double quotes a backslash is itself, except before a few characters.
+          [[ $rest && $quote && $rest != [\$\`\"\\]* ]] && value+=$char
+          value+=${rest:0:1} rest=${rest:1}
+          ;;
+        \$ | \"\$)
+          if [[ $rest =~ ^([a-zA-Z_][a-zA-Z_0-9]*) || $rest =~ ^\{([a-zA-Z_][a-zA-Z_0-9]*)\} ]]; then
+            rest=${rest:${#BASH_REMATCH[0]}}
+            char=${BASH_REMATCH[1]} char=${!char-}
+            [[ $rest ]] || unclear=1
+          else
+            unclear=1
+            [[ $rest != [\(\{\[\']* ]] || lost=1
+          fi
+          value+=$char
+          ;;
+        \` | \"\`) value+=$char unclear=1 lost=1 ;;
+        [~*?[\{\#"$history"]) value+=$char unclear=1 ;;
+        *) value+=$char ;;
+      esac
+    fi
   done
 }
 
@@ -83,29 +93,47 @@ _kovalt_ask() {
   done
 }
 
-_kovalt() {
-  # shellcheck disable=SC2034 # bash-completion sets all four.
-  local cur prev words cword
-  _init_completion -n '=:@' || return
+# Sets `after` to the words after the one at the cursor.
+_kovalt_read_after() {
+  local begun=1 redirected='' value=$value quote=$quote inside escape unclear lost
+  local -a line=()
+  _kovalt_read "${COMP_LINE:COMP_POINT} "
+  after=("${line[@]:1}")
+}
 
-  local word value typed quote inside escape unclear lost='' quoted kind start history=${histchars:-!}
-  local -a line=() candidates=()
+# Completes a file name. $1 is the part of the word that the line editor replaces.
+_kovalt_files() {
+  local path=$value
+  compopt -o bashdefault -o default
+  if [[ ! $quote && $path == *[=:]* ]]; then
+    # The line editor itself would look only for what follows the "=" or ":".
+    begun='' value=''
+    _kovalt_read "$1"
+    mapfile -t COMPREPLY < <(compgen -f -- "$path")
+    COMPREPLY=("${COMPREPLY[@]#"${path%"$value"}"}")
+    compopt -o filenames
+  fi
+}
+
+_kovalt() {
+  local begun='' redirected='' value='' quote='' inside='' escape='' unclear='' lost=''
+  local cword typed quoted kind start word history=${histchars:-!}
+  local -a line=() after candidates
   history=${history:0:1}
-  for word in "${words[@]}"; do
-    _kovalt_unquote "$word"
-    line+=("$value")
-  done
-  _kovalt_unquote "$cur"
-  line[cword]=$value
+  _kovalt_read "${COMP_LINE:0:COMP_POINT}"
+  _kovalt_read_after
+  cword=${#line[@]}
+  line+=("$value" "${after[@]}")
   # With insert-completions the line editor removes the open quote.
   [[ $quote && $COMP_TYPE == 42 ]] && return
 
-  # The line editor replaces no more than $2, which begins after the last quote, "=" or ":".
-  local kept=${cur:0:${#cur}-${#2}}
   _kovalt_ask
-  if [[ $kind == files ]]; then
-    _filedir
-    COMPREPLY=("${COMPREPLY[@]#"$kept"}")
+  if [[ $unclear && $2 == \$* ]]; then
+    # The name of a variable.
+    compopt -o bashdefault
+  fi
+  if [[ $redirected || $kind == files ]]; then
+    _kovalt_files "$2"
     return
   fi
   if ((${#candidates[@]} == 1)) && [[ ${candidates[0]} == *[.=] ]]; then
@@ -119,7 +147,8 @@ _kovalt() {
     fi
   fi
 
-  # What is typed stays as it is. Behind a command such as sudo, $2 is too long if a quote is open.
+  # The line editor replaces no more than $2, which begins after the last quote, "=" or ":". It stays as it is typed. Behind
+  # a command such as sudo, $2 is too long if a quote is open.
   [[ $quote ]] && typed=$inside || typed=$2
   typed=${typed%"$escape"}
   for word in "${candidates[@]}"; do

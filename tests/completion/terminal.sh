@@ -15,9 +15,9 @@ clean_up() {
 }
 trap clean_up EXIT
 
-# Opens a shell (bash, zsh or fish) in the current folder, as its users have it, but with a plain prompt and no memory.
-# Its start-up file holds the further arguments as lines: in zsh in front of compinit. Of the environment it has only
-# its home, `folder`/home, and what `environment` holds.
+# Opens a shell in the current folder: bash, bare-bash (without the package bash-completion), zsh or fish. It is set up as
+# its users have it, but with a plain prompt and no memory. Its start-up file holds the further arguments as lines: in zsh
+# before compinit. Its environment is its home, `folder`/home, and what `environment` holds.
 environment=()
 open_shell() {
   local command home=$folder/home
@@ -25,9 +25,9 @@ open_shell() {
   shift
   mkdir -p "$home/.config/fish"
   case $shell in
-    bash)
-      printf '%s\n' "PS1='$ '" "bind 'set show-all-if-ambiguous on'" '. /usr/share/bash-completion/bash_completion' \
-        "$@" >"$home/.bashrc"
+    bash | bare-bash)
+      [[ $shell == bare-bash ]] || set -- '. /usr/share/bash-completion/bash_completion' "$@"
+      printf '%s\n' "PS1='$ '" "bind 'set show-all-if-ambiguous on'" "$@" >"$home/.bashrc"
       command=(bash --noprofile --rcfile "$home/.bashrc")
       ;;
     zsh)
