@@ -6,12 +6,12 @@
 #include <string>
 
 #include "actions/edit/merge_value.h"
-#include "actions/read/array_text.h"
-#include "actions/read/concat_records.h"
+#include "actions/read/read_array_actions.h"
+#include "actions/read/read_object_array_concat_action.h"
 #include "json/document.h"
-#include "json/key_path.h"
-#include "json/resolve_key_path.h"
-#include "json/value_to_text.h"
+#include "json/path/key_path.h"
+#include "json/path/resolve_key_path.h"
+#include "json/write/write_value.h"
 
 namespace kovalt {
 namespace {
@@ -47,8 +47,8 @@ void mergeObjects(benchmark::State& state, const std::string& sourcePrefix) {
     Value target = numberedObject("a", state.range(0), document->GetAllocator());
     Value source = numberedObject(sourcePrefix, state.range(0), document->GetAllocator());
     state.ResumeTiming();
-    MemberFinder members;
-    mergeValue(target, source, document->GetAllocator(), members);
+    EditedDocument edited(*document);
+    mergeValue(target, source, edited);
     state.PauseTiming();
     document.reset();
     state.ResumeTiming();

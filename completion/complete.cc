@@ -9,8 +9,8 @@
 #include "completion/key_path_candidates.h"
 #include "completion/key_path_projection.h"
 #include "completion/starts_with.h"
-#include "json/key_path.h"
-#include "json/load_document.h"
+#include "json/load/load_document.h"
+#include "json/path/key_path.h"
 
 namespace kovalt {
 namespace {
@@ -19,7 +19,7 @@ using Values = std::vector<const Value*>;
 
 std::vector<std::string> optionLines(std::string_view typed, bool withFileOptions) {
   std::vector<std::string> lines;
-  for (const Option& option : OptionTable()) {
+  for (const Option& option : kOptionTable) {
     if (option.effect == OptionEffect::workFile && !withFileOptions) {
       continue;
     }
@@ -61,7 +61,7 @@ CandidateList keyPathList(const CursorPlace& place, std::string_view typed) {
   }
   addCandidates(projection, from, typed, use);
   Document document;
-  if (!loadProjected(path, projection, document)) {
+  if (!loadProjected(path, projection, document, false)) {
     return {};
   }
   return keyPathCandidates(isField ? arrayElements(document, place.keyPath) : Values{&document}, typed, use);

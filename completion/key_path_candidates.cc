@@ -6,10 +6,10 @@
 
 #include "completion/reachable_steps.h"
 #include "completion/starts_with.h"
-#include "json/find_member.h"
-#include "json/find_object_by_ref.h"
-#include "json/key_path.h"
-#include "json/text_value.h"
+#include "json/document.h"
+#include "json/member_finder.h"
+#include "json/path/find_object_by_ref.h"
+#include "json/path/key_path.h"
 
 namespace kovalt {
 namespace {

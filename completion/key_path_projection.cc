@@ -1,7 +1,7 @@
 #include "completion/key_path_projection.h"
 
 #include "completion/starts_with.h"
-#include "json/key_path.h"
+#include "json/path/key_path.h"
 
 namespace kovalt {
 namespace {

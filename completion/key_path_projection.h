@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "completion/reachable_steps.h"
-#include "json/projection.h"
+#include "json/load/projection.h"
 
 namespace kovalt {
 

@@ -5,8 +5,8 @@
 
 #include "completion/shown_text.h"
 #include "completion/starts_with.h"
-#include "json/ref_value.h"
-#include "json/text_value.h"
+#include "json/document.h"
+#include "json/path/selecting_values.h"
 
 namespace kovalt {
 namespace {

@@ -7,15 +7,14 @@
 #include <string>
 #include <vector>
 
-#include "actions/read/array_text.h"
 #include "actions/read/read_array_actions.h"
 #include "actions/read/read_object_array_concat_action.h"
 #include "fuzz/input.h"
 #include "fuzz/property.h"
 #include "fuzz/scratch_folder.h"
 #include "fuzz/target.h"
-#include "json/resolve_key_path.h"
-#include "json/value_to_text.h"
+#include "json/path/resolve_key_path.h"
+#include "json/write/write_value.h"
 
 namespace kovalt::fuzz {
 namespace {

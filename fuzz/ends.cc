@@ -3,15 +3,15 @@
 #include <string>
 
 #include "fuzz/property.h"
-#include "json/process_end.h"
+#include "json/process_exit.h"
 
 namespace kovalt {
 
 // In place of the functions that end the program.
 
-void endWithFailure() { throw fuzz::EarlyEnd{fuzz::End::typeClash}; }
+void exitWithFailure() { throw fuzz::EarlyEnd{fuzz::End::typeClash}; }
 
-void endAbnormally() { throw fuzz::EarlyEnd{fuzz::End::skippedStep}; }
+void abortProcess() { throw fuzz::EarlyEnd{fuzz::End::skippedStep}; }
 
 }  // namespace kovalt
 

@@ -1,7 +1,7 @@
 // A key path gives its text back, both walks come to the place that a walk by plain loops comes to, and a chain built
 // for a path is read back along it. An input is a line with a key path, one with another separator, and a document.
 
-#include "json/key_path.h"
+#include "json/path/key_path.h"
 
 #include <algorithm>
 #include <string>
@@ -10,9 +10,9 @@
 #include "fuzz/property.h"
 #include "fuzz/scratch_folder.h"
 #include "fuzz/target.h"
-#include "json/resolve_key_path.h"
-#include "json/value_to_text.h"
-#include "json/wrap_in_path.h"
+#include "json/path/resolve_key_path.h"
+#include "json/path/wrap_in_path.h"
+#include "json/write/write_value.h"
 
 namespace kovalt::fuzz {
 namespace {
@@ -34,8 +34,6 @@ void trySeparator(const std::string& text, const std::string& separator) {
   }
 }
 
-std::string textOf(const Value& string) { return {string.GetString(), string.GetStringLength()}; }
-
 const Value* slowMember(const Value& value, const std::string& name) {
   if (value.IsObject()) {
     for (const auto& member : value.GetObject()) {
@@ -49,8 +47,7 @@ const Value* slowMember(const Value& value, const std::string& name) {
 
 /// Whether a value is a number or string that `wanted` selects by.
 bool slowScalarMatch(const Value& value, const std::string& wanted) {
-  return (value.IsNumber() && valueToText(value, false) == wanted) ||
-         (value.IsString() && textOf(value).substr(0, textOf(value).find('\0')) == wanted);
+  return (value.IsNumber() && valueToText(value, false) == wanted) || (value.IsString() && value.GetString() == wanted);
 }
 
 bool slowMatch(const Value& value, const std::string& wanted) {

@@ -43,8 +43,8 @@ void widen(Value& value, std::size_t count, std::size_t stride, Allocator& alloc
 void tryMerge(Document& target, Document& source) {
   PlainValue expected = plainValue(target);
   const std::optional<End> expectedEnd = mergePlain(expected, plainValue(source)).end;
-  MemberFinder members;
-  const std::optional<End> end = endOf([&] { mergeValue(target, source, target.GetAllocator(), members); });
+  EditedDocument edited(target);
+  const std::optional<End> end = endOf([&] { mergeValue(target, source, edited); });
   expect(end == expectedEnd, "a merge ends the process only where it must");
   expect(end || plainValue(target) == expected, "a merge leaves the members, counts and order of the plain merge");
 }
@@ -55,8 +55,8 @@ bool tryRemoval(Document& document, const std::string& keyPath, EmptyParents emp
   PlainValue expected = plainValue(document);
   const PlainRemoval removal = removePlain(expected, action.steps(), emptyParents == EmptyParents::clear);
   bool succeeded = false;
-  MemberFinder members;
-  const std::optional<End> end = endOf([&] { succeeded = action.execute(document, members); });
+  EditedDocument edited(document);
+  const std::optional<End> end = endOf([&] { succeeded = action.execute(edited); });
   expect(end == removal.end, "a removal ends the process only where it must");
   expect(end || succeeded == removal.succeeded, "a removal succeeds like the plain one");
   expect(end || plainValue(document) == expected, "a removal leaves the members and order of the plain one");

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "json/value_to_text.h"
+#include "json/write/write_value.h"
 
 namespace kovalt::fuzz {
 namespace {

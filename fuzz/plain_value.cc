@@ -1,6 +1,6 @@
 #include "fuzz/plain_value.h"
 
-#include "json/value_to_text.h"
+#include "json/write/write_value.h"
 
 namespace kovalt::fuzz {
 namespace {

@@ -9,7 +9,7 @@
 #include "fuzz/property.h"
 #include "fuzz/scratch_folder.h"
 #include "fuzz/target.h"
-#include "json/value_to_text.h"
+#include "json/write/write_value.h"
 
 namespace kovalt::fuzz {
 namespace {

@@ -5,8 +5,8 @@
 #include <iterator>
 
 #include "fuzz/property.h"
-#include "json/load_document.h"
-#include "json/write_document.h"
+#include "json/load/load_document.h"
+#include "json/write/write_value.h"
 
 namespace kovalt::fuzz {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-// All options of the tool, one row each. The parser, the completion and everything that lists options reads the columns
-// of this table.
+// All options of the tool, one row each. The parser, the completion and the tests read the columns of this table.
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,11 +11,11 @@
 
 namespace kovalt {
 
-/// What an argument of an option is.
+/// The kind of an argument.
 enum class ArgumentKind {
   none,
   keyPath,
-  field,  ///< A key path that starts at each object of the array that the first argument names.
+  field,  ///< A key path inside each element of the array that the first argument names.
   value,
   booleanWord,
   file,
@@ -24,8 +24,8 @@ enum class ArgumentKind {
 /// What follows the first argument of an option.
 struct FurtherArguments {
   ArgumentKind kind = ArgumentKind::none;
-  bool isList = false;            ///< Any number of them; otherwise there is exactly one.
-  bool endsInSeparators = false;  ///< The last value of the list is not one of them, but holds the separators.
+  bool isList = false;            ///< Whether there is any number of them; otherwise there is exactly one.
+  bool endsInSeparators = false;  ///< Whether the last value of the list is the separators instead.
 };
 
 /// What an option adds to a call.
@@ -33,12 +33,12 @@ enum class OptionEffect {
   edit,
   removal,
   read,
-  workFile,  ///< The file to work on, given once at most.
+  workFile,  ///< The file to work on, given at most once.
 };
 
-/// The arguments of one option on the command line. What an option does not have stays empty.
+/// The arguments of one option on the command line. Those that the option does not have are empty.
 struct OptionArguments {
-  std::string first;   ///< The key path, or the file of an option without one.
+  std::string first;   ///< The key path; the file of an option without a key path.
   std::string second;  ///< The value or the file after a key path.
   std::vector<std::string> list;
   std::string separators;
@@ -50,20 +50,17 @@ struct Option {
   std::string_view shortForm;
   ArgumentKind first;
   FurtherArguments further;
-  int requiredArguments;  ///< How many arguments must follow, whatever they look like.
+  int requiredArguments;  ///< How many arguments must follow, whatever they begin with.
   OptionEffect effect;
-  std::string_view description;  ///< In a few words, for people who choose from a list.
-  /// Adds to the context what the option with these arguments asks for.
+  std::string_view description;  ///< In a few words, for a list of completions.
+  /// Adds the option with these arguments to the context.
   void (*addTo)(ToolContext& context, OptionArguments&& arguments);
 };
 
-/// The whole table, a range of rows.
-struct OptionTable {
-  static const Option* begin();
-  static const Option* end();
-};
+/// The whole table.
+extern const std::array<Option, 21> kOptionTable;
 
-/// The row whose long or short form is exactly `form`, or nullptr.
+/// Returns the row whose long or short form is `form`, or nullptr.
 const Option* findOption(std::string_view form);
 
 }  // namespace kovalt

@@ -1,10 +1,9 @@
 #include "app/parse_arguments.h"
 
-#include <string_view>
+#include <algorithm>
 #include <utility>
 
 #include "app/option_table.h"
-#include "app/value_list.h"
 #include "json/standard_streams.h"
 
 namespace kovalt {
@@ -16,21 +15,11 @@ bool fail(const std::string& message) {
 }
 
 bool failForMissingArgument(std::string_view option) {
-  // With the prefix of every message the line says "Error: " twice, which scripts have come to know.
+  // The prefix of every message makes the line say "Error: " twice, as scripts expect it.
   return fail("Error: missing argument(s) after " + std::string(option));
 }
 
-/// Takes the last value of the list as the separators. Returns false where no value is left in front of it.
-bool takeSeparators(OptionArguments& arguments) {
-  if (arguments.list.size() < 2) {
-    return false;
-  }
-  arguments.separators = std::move(arguments.list.back());
-  arguments.list.pop_back();
-  return true;
-}
-
-/// Parses the option at `position` and moves on to its last argument.
+/// Parses the option at `position`, and moves `position` to its last argument.
 bool parseOption(ToolContext& context, int& position, int argumentCount, const char* const* arguments) {
   const std::string_view form = arguments[position];
   const Option* option = findOption(form);
@@ -50,8 +39,12 @@ bool parseOption(ToolContext& context, int& position, int argumentCount, const c
   } else if (option->further.kind != ArgumentKind::none) {
     taken.second = arguments[++position];
   }
-  if (option->further.endsInSeparators && !takeSeparators(taken)) {
-    return failForMissingArgument(form);
+  if (option->further.endsInSeparators) {
+    if (taken.list.size() < 2) {
+      return failForMissingArgument(form);
+    }
+    taken.separators = std::move(taken.list.back());
+    taken.list.pop_back();
   }
   option->addTo(context, std::move(taken));
   return true;
@@ -69,6 +62,29 @@ bool parseArguments(ToolContext& context, int argumentCount, const char* const* 
     }
   }
   return true;
+}
+
+std::vector<std::string> collectValues(int& position, int argumentCount, const char* const* arguments) {
+  std::vector<std::string> values;
+  while (position + 1 < argumentCount) {
+    const std::string_view next = arguments[position + 1];
+    if (next.empty() || next.front() == '-') {
+      break;
+    }
+    values.emplace_back(next);
+    ++position;
+  }
+  return values.size() == 1 ? splitAt(values.front(), ',') : values;
+}
+
+std::vector<std::string> splitAt(std::string_view text, char separator) {
+  std::vector<std::string> pieces;
+  while (!text.empty()) {
+    const std::size_t length = std::min(text.find(separator), text.size());
+    pieces.emplace_back(text.substr(0, length));
+    text.remove_prefix(std::min(length + 1, text.size()));
+  }
+  return pieces;
 }
 
 }  // namespace kovalt

@@ -3,47 +3,47 @@
 #include "actions/edit/merge_value.h"
 #include "actions/read/print_read_results.h"
 #include "json/document.h"
-#include "json/load_document.h"
-#include "json/print_value.h"
-#include "json/write_document.h"
+#include "json/load/load_document.h"
+#include "json/write/write_value.h"
 
 namespace kovalt {
 namespace {
 
-/// Whether nothing but the reads can look at the document.
+/// Whether nothing but the reads looks at the document.
 bool onlyReads(const ToolContext& context) {
   return context.editActions.empty() && context.removeActions.empty() && !context.displayResult &&
          !context.readActions.empty();
 }
 
-bool load(const ToolContext& context, Document& document) {
-  return onlyReads(context) ? loadProjected(context.filePath, context.projection, document)
-                            : loadDocument(context.filePath, document, false);
-}
-
-/// A file that is missing, unreadable or no JSON counts as an empty object.
+/// Loads what the call looks at. A file that is missing, unreadable or not JSON is treated as an empty object.
 void loadOrStartEmpty(const ToolContext& context, Document& document) {
-  if (context.filePath.empty() || !load(context, document)) {
+  Projection kept;
+  if (onlyReads(context)) {
+    for (const auto& action : context.readActions) {
+      action->addTo(kept, Projection::kRoot);
+    }
+  } else {
+    kept.addWhole(Projection::kRoot);
+  }
+  if (context.filePath.empty() || !loadProjected(context.filePath, kept, document, false)) {
     document.SetObject();
   }
 }
 
-void applyEdits(const ToolContext& context, Document& document) {
-  Lookups lookups;
+void applyEdits(const ToolContext& context, EditedDocument& document) {
   for (const auto& action : context.editActions) {
-    if (!applyAtPath(*action, document, lookups)) {
-      Value chain = buildPathChain(*action, document.GetAllocator(), lookups.members);
-      mergeValue(document, chain, document.GetAllocator(), lookups.members);
+    if (!applyAtPath(*action, document)) {
+      Value chain = buildPathChain(*action, document);
+      mergeValue(document.root, chain, document);
     }
   }
 }
 
 /// Whether there were removals and all of them succeeded: only then have they modified the document.
-bool applyRemovals(const ToolContext& context, Document& document) {
-  MemberFinder members;
+bool applyRemovals(const ToolContext& context, EditedDocument& document) {
   bool allRemovalsOk = !context.removeActions.empty();
   for (const auto& action : context.removeActions) {
-    allRemovalsOk &= action->execute(document, members);
+    allRemovalsOk &= action->execute(document);
   }
   return allRemovalsOk;
 }
@@ -53,8 +53,9 @@ bool applyRemovals(const ToolContext& context, Document& document) {
 bool run(const ToolContext& context) {
   Document document;
   loadOrStartEmpty(context, document);
-  applyEdits(context, document);
-  const bool allRemovalsOk = applyRemovals(context, document);
+  EditedDocument edited(document);
+  applyEdits(context, edited);
+  const bool allRemovalsOk = applyRemovals(context, edited);
 
   // Any edit at all counts as a modification, even one that failed.
   const bool modified = !context.editActions.empty() || allRemovalsOk;

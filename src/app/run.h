@@ -6,8 +6,8 @@
 
 namespace kovalt {
 
-/// Loads the document, applies all edits and then all removals, displays it, saves it and prints the reads, in this
-/// order whatever the order of the options. Returns false only when the file to save cannot be opened for writing.
+/// Loads the document, applies all edits and then all removals, displays and saves it and prints the reads, in this
+/// order whatever the order of the options. Returns false only if the file cannot be opened for saving.
 bool run(const ToolContext& context);
 
 }  // namespace kovalt

@@ -1,6 +1,6 @@
 #pragma once
 
-// What a command line asks for.
+// The parsed command line.
 
 #include <memory>
 #include <string>
@@ -9,7 +9,6 @@
 #include "actions/edit/edit_action.h"
 #include "actions/edit/remove_action.h"
 #include "actions/read/read_action.h"
-#include "json/projection.h"
 
 namespace kovalt {
 
@@ -19,8 +18,7 @@ struct ToolContext {
   std::vector<std::unique_ptr<RemoveAction>> removeActions;
   std::vector<std::unique_ptr<ReadAction>> readActions;
   std::string filePath;        ///< The file to load and save; empty for none.
-  bool displayResult = false;  ///< Display the document whatever else is asked for.
-  Projection projection;       ///< What the reads can look at.
+  bool displayResult = false;  ///< Whether to display the document in any case.
 };
 
 }  // namespace kovalt

@@ -6,8 +6,8 @@
 
 namespace kovalt {
 
-/// The text that a call without arguments prints, ended by a line feed. Where it disagrees with the parser it is the
-/// text that users know, kept byte for byte, runs of spaces included.
+/// The text that a call without arguments prints, ended by a line feed. It disagrees with the parser in places, and is
+/// kept byte for byte as users know it, runs of spaces included.
 extern const std::string_view kUsageText;
 
 }  // namespace kovalt

@@ -1,15 +1,24 @@
 #pragma once
 
-// The JSON types of the one document of a call.
+// The JSON types of the one document of a call, and the conversions of their strings.
+
+#ifdef NDEBUG
+#error "Compile Kovalt without NDEBUG: RapidJSON's assertions are part of what it does"
+#endif
 
 #include <rapidjson/document.h>
 
-#include "json/tuning/aborting_allocator.h"
-#include "json/tuning/rapidjson_steps.h"
+#include <string_view>
+
+#include "json/aborting_allocator.h"
 
 namespace kovalt {
 
-/// The document of a run. Its memory pool takes chunks of 65,536 bytes and frees them together when it is destroyed.
+static_assert(RAPIDJSON_MAJOR_VERSION == 1 && RAPIDJSON_MINOR_VERSION == 1 && RAPIDJSON_PATCH_VERSION == 0,
+              "the specialisations beside Kovalt's streams replace functions of RapidJSON 1.1.0");
+
+/// The document of a run. Its memory pool allocates chunks of 65,536 bytes, never uses memory twice, and frees all
+/// chunks when the document is destroyed.
 using Document =
     rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<AbortingAllocator>, AbortingAllocator>;
 
@@ -18,5 +27,18 @@ using Allocator = Document::AllocatorType;
 
 /// A value inside a document or on its way into one.
 using Value = Document::ValueType;
+
+/// The bytes of the string `value`, which keeps owning them. RapidJSON counts the bytes of strings in 32 bits.
+inline std::string_view textOf(const Value& value) { return {value.GetString(), value.GetStringLength()}; }
+
+/// A string with a copy of `text`, allocated from `allocator`.
+inline Value copyText(std::string_view text, Allocator& allocator) {
+  return {text.data(), static_cast<rapidjson::SizeType>(text.size()), allocator};
+}
+
+/// A string that refers to the bytes of `text` and must not outlive them: a search key.
+inline Value referToText(std::string_view text) {
+  return Value(rapidjson::StringRef(text.data(), static_cast<rapidjson::SizeType>(text.size())));
+}
 
 }  // namespace kovalt

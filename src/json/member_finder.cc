@@ -1,30 +1,31 @@
 #include "json/member_finder.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <functional>
 #include <limits>
 #include <utility>
 
-#include "json/text_value.h"
+#include "json/contract.h"
 
 namespace kovalt {
 namespace {
 
 using rapidjson::SizeType;
 
-// Up to this size an object is scanned, and so is a greater one for its first questions: its index costs as much.
-constexpr SizeType kScannedSize = 32;
-constexpr unsigned kScans = 32;
 constexpr SizeType kNone = std::numeric_limits<SizeType>::max();
 
 const Value::Member* membersOf(const Value& object) { return object.MemberBegin().operator->(); }
 
-std::uint32_t hashOf(std::string_view name) { return static_cast<std::uint32_t>(std::hash<std::string_view>()(name)); }
-
 std::string_view nameAt(const Value& object, SizeType position) { return textOf(membersOf(object)[position].name); }
 
 }  // namespace
+
+const Value* findMember(const Value& value, std::string_view name) {
+  if (!value.IsObject()) {
+    return nullptr;
+  }
+  const auto member = value.FindMember(referToText(name));
+  return member == value.MemberEnd() ? nullptr : &member->value;
+}
 
 const Value* MemberFinder::find(const Value& value, std::string_view name) {
   if (!value.IsObject()) {
@@ -39,10 +40,10 @@ Value* MemberFinder::find(Value& value, std::string_view name) {
 }
 
 void MemberFinder::append(Value& object, Value& name, Value& value, Allocator& allocator) {
-  const Value::Member* before = object.MemberBegin().operator->();
+  const Value::Member* before = membersOf(object);
   object.AddMember(name, value, allocator);
   if (membersOf(object) != before) {
-    // The members were moved to a larger array, and their index goes with them.
+    // The members have moved to a larger array, and their index with them.
     auto index = indexes_.extract(before);
     if (!index.empty()) {
       index.key() = membersOf(object);
@@ -56,71 +57,110 @@ bool MemberFinder::remove(Value& object, std::string_view name) {
   if (position == object.MemberCount()) {
     return false;
   }
-  if (object.MemberCount() <= kScannedSize) {
+  const SizeType last = object.MemberCount() - 1;
+  if (object.MemberCount() <= IndexBudget::kEntryCost) {
+    // It may have had an index when it was larger.
     indexes_.erase(membersOf(object));
-  } else if (Index& index = indexes_[membersOf(object)]; !index.places.empty()) {
-    const SizeType last = object.MemberCount() - 1;
-    index.erase(position);
-    if (position != last) {
-      index.erase(last);
-      index.places[position].hash = index.places[last].hash;
-      index.insert(position);
-    }
-    index.places.pop_back();
+  } else if (const auto index = indexes_.find(membersOf(object)); position < index->second.size()) {
+    index->second.remove(position, last, hashOf(nameAt(object, last)));
   }
   object.RemoveMember(object.MemberBegin() + static_cast<std::ptrdiff_t>(position));
   return true;
 }
 
-void MemberFinder::Index::insert(SizeType position) {
-  Place& place = places[position];
-  SizeType& first = chainOf(place.hash);
-  if (first == kNone || position < first) {
-    place.previous = first == kNone ? position : std::exchange(places[first].previous, position);
-    place.next = std::exchange(first, position);
-    return;
+SizeType MemberFinder::positionOf(const Value& object, std::string_view name) {
+  // What is not an object is left to the assertion of the scan.
+  const SizeType count = object.IsObject() ? object.MemberCount() : 0;
+  if (count <= IndexBudget::kEntryCost) {
+    return static_cast<SizeType>(object.FindMember(referToText(name)) - object.MemberBegin());
   }
-  SizeType before = places[first].previous;
-  if (position < before) {
-    for (before = first; places[before].next < position; before = places[before].next) {
+  Index& index = indexes_[membersOf(object)];
+  require(index.size() <= count);
+  while (index.size() < count && index.budget.pay(1)) {
+    index.add(hashOf(nameAt(object, index.size())), count);
+  }
+  SizeType position = index.size() == 0 ? 0 : index.find(object, name, hashOf(name));
+  if (position == index.size()) {
+    while (position < count && nameAt(object, position) != name) {
+      ++position;
     }
   }
-  place.previous = before;
-  place.next = std::exchange(places[before].next, position);
-  places[place.next == kNone ? first : place.next].previous = position;
+  index.budget.earn(position);
+  return position;
+}
+
+SizeType MemberFinder::Index::find(const Value& object, std::string_view name, std::uint32_t hash) const {
+  SizeType position = chains_[hash % chains_.size()];
+  while (position != kNone && !(places_[position].hash == hash && nameAt(object, position) == name)) {
+    position = places_[position].next;
+  }
+  return position == kNone ? size() : position;
+}
+
+void MemberFinder::Index::add(std::uint32_t hash, SizeType count) {
+  if (chains_.size() < count) {
+    // Four chains for each member, which leaves room for more members.
+    chains_.assign(std::size_t{count} * 4, kNone);
+    for (SizeType position = 0; position < size(); ++position) {
+      insert(position);
+    }
+  }
+  places_.push_back({hash, kNone, kNone});
+  insert(size() - 1);
+}
+
+void MemberFinder::Index::remove(SizeType position, SizeType last, std::uint32_t hashOfLast) {
+  const bool hasLast = last < size();
+  if (hasLast && position != last) {
+    erase(last);
+  }
+  erase(position);
+  if (position != last) {
+    places_[position].hash = hashOfLast;
+    insert(position);
+  }
+  if (hasLast) {
+    places_.pop_back();
+  }
+}
+
+void MemberFinder::Index::insert(SizeType position) {
+  Place& place = places_[position];
+  SizeType& first = chainOf(place.hash);
+  if (first == kNone || position < first) {
+    place.previous = first == kNone ? position : std::exchange(places_[first].previous, position);
+    place.next = std::exchange(first, position);
+  } else {
+    SizeType before = places_[first].previous;
+    if (position < before) {
+      for (before = first; places_[before].next < position; before = places_[before].next) {
+      }
+    }
+    place.previous = before;
+    place.next = std::exchange(places_[before].next, position);
+    places_[place.next == kNone ? first : place.next].previous = position;
+  }
+  checkChain(place.hash);
 }
 
 void MemberFinder::Index::erase(SizeType position) {
-  const Place& place = places[position];
+  const Place place = places_[position];
   SizeType& first = chainOf(place.hash);
-  places[place.next == kNone ? first : place.next].previous = place.previous;
-  (position == first ? first : places[place.previous].next) = place.next;
+  places_[place.next == kNone ? first : place.next].previous = place.previous;
+  (position == first ? first : places_[place.previous].next) = place.next;
+  checkChain(place.hash);
 }
 
-SizeType MemberFinder::positionOf(const Value& object, std::string_view name) {
-  // What is no object is left to the assertion of the search.
-  const SizeType size = object.IsObject() ? object.MemberCount() : 0;
-  if (size > kScannedSize) {
-    Index& index = indexes_[membersOf(object)];
-    if (index.scans == kScans) {
-      if (size > index.chains.size()) {
-        index = {std::vector<SizeType>(std::size_t{size} * 4, kNone), {}, kScans};
-      }
-      for (auto next = static_cast<SizeType>(index.places.size()); next < size; ++next) {
-        index.places.push_back({hashOf(nameAt(object, next)), kNone, kNone});
-        index.insert(next);
-      }
-      const std::uint32_t hash = hashOf(name);
-      SizeType at = index.chainOf(hash);
-      while (at != kNone && !(index.places[at].hash == hash && nameAt(object, at) == name)) {
-        at = index.places[at].next;
-      }
-      return std::min(at, size);
+void MemberFinder::Index::checkChain(std::uint32_t hash) const {
+  if constexpr (kChecksContracts) {
+    const SizeType first = chains_[hash % chains_.size()];
+    for (SizeType position = first; position != kNone; position = places_[position].next) {
+      const Place& place = places_[position];
+      require(position < size() && place.hash % chains_.size() == hash % chains_.size());
+      require(place.next == kNone ? places_[first].previous == position
+                                  : place.next > position && places_[place.next].previous == position);
     }
-    ++index.scans;
   }
-  const auto found = object.FindMember(referToText(name));
-  return static_cast<SizeType>(found - object.MemberBegin());
 }
 
 }  // namespace kovalt

@@ -1,25 +1,36 @@
 #pragma once
 
-// The members of objects that many options of one call ask for.
+// Finding the members of objects by name, once and for the many options of one call.
 
 #include <cstdint>
+#include <map>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "json/document.h"
+#include "json/index_budget.h"
+#include "json/text_hash.h"
 
 namespace kovalt {
 
-/// Finds and removes members by name, in a time that hardly grows with the object: one of many members that is asked
-/// again and again gets an index of its names. One finder serves one document.
+/// Returns the value of the first member of `value` whose name equals `name` byte for byte, or nullptr if there is none
+/// or `value` is not an object. The document owns the result, which stays valid until the object changes.
+const Value* findMember(const Value& value, std::string_view name);
+
+/// Finds, appends and removes members by name, in a time that does not grow with the object once it was scanned often
+/// enough. One finder serves one document.
 ///
-/// An index belongs to an array of members, not to a value, and a document's pool never uses memory twice, so an index
-/// is never taken for that of another object. Names are only ever appended, which the next question makes up for, or
-/// removed, which `remove` makes up for; values change as they like, as no index knows them. Names are compared in
-/// ascending order of their places, so that the first member of a name is found, whatever its hash.
+/// DESCRIPTION. The first member of a name is found, as a scan finds it. Between two calls, an object that was looked
+/// up may only get members by `append` and lose them by `remove`; values may change at will.
+///
+/// IMPLEMENTATION. An index contains the members at the front of one object; the members after them are scanned. It
+/// belongs to an array of members, not to a value: a document's pool never uses memory twice, so no other object ever
+/// has the same array.
 class MemberFinder {
  public:
+  /// `hash` is for tests; by default its key is secret.
+  explicit MemberFinder(TextHash hash = {}) : hash_(hash) {}
+
   /// As `findMember(value, name)`.
   const Value* find(const Value& value, std::string_view name);
   Value* find(Value& value, std::string_view name);
@@ -27,30 +38,47 @@ class MemberFinder {
   /// Appends a member to `object`, moving `name` and `value` into it.
   void append(Value& object, Value& name, Value& value, Allocator& allocator);
 
-  /// Removes the first member of that name from `object`, whose last member takes its place. Returns whether there was
-  /// one. An `object` that is none ends the process through RapidJSON's assertion.
+  /// Removes the first member with that name from `object`; its last member moves into the gap. Returns whether there
+  /// was one. If `object` is not an object, an assertion of RapidJSON aborts the process.
   bool remove(Value& object, std::string_view name);
 
  private:
-  /// The members by the hashes of their names: chains of ascending positions.
-  struct Index {
+  /// The members at the front of an object by the hashes of their names: chains of ascending positions.
+  class Index {
+   public:
+    /// The number of members in the index.
+    [[nodiscard]] rapidjson::SizeType size() const { return static_cast<rapidjson::SizeType>(places_.size()); }
+    /// The first member with that name; `size()` if the index has none.
+    [[nodiscard]] rapidjson::SizeType find(const Value& object, std::string_view name, std::uint32_t hash) const;
+    /// Adds the member at position `size()`, whose name has that hash, to the index of an object with `count` members.
+    void add(std::uint32_t hash, rapidjson::SizeType count);
+    /// Does what a removal does that moves the member at position `last` to `position`.
+    void remove(rapidjson::SizeType position, rapidjson::SizeType last, std::uint32_t hashOfLast);
+
+    IndexBudget budget;
+
+   private:
     struct Place {
       std::uint32_t hash;
-      rapidjson::SizeType previous;  ///< In the first place of a chain its last one.
+      rapidjson::SizeType previous;  ///< In the first place of a chain, its last one.
       rapidjson::SizeType next;
     };
-    std::vector<rapidjson::SizeType> chains;  ///< The first position of each.
-    std::vector<Place> places;                ///< By the position of a member.
-    unsigned scans = 0;                       ///< How many questions were answered without it.
 
-    rapidjson::SizeType& chainOf(std::uint32_t hash) { return chains[hash % chains.size()]; }
     void insert(rapidjson::SizeType position);
     void erase(rapidjson::SizeType position);
+    /// Checks where contracts are that a chain is linked in both directions and ascends.
+    void checkChain(std::uint32_t hash) const;
+    rapidjson::SizeType& chainOf(std::uint32_t hash) { return chains_[hash % chains_.size()]; }
+
+    std::vector<rapidjson::SizeType> chains_;  ///< The first position of each.
+    std::vector<Place> places_;                ///< By position.
   };
 
   [[nodiscard]] rapidjson::SizeType positionOf(const Value& object, std::string_view name);
+  [[nodiscard]] std::uint32_t hashOf(std::string_view name) const { return static_cast<std::uint32_t>(hash_(name)); }
 
-  std::unordered_map<const Value::Member*, Index> indexes_;
+  TextHash hash_;
+  std::map<const Value::Member*, Index> indexes_;
 };
 
 }  // namespace kovalt

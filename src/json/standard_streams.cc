@@ -12,7 +12,7 @@ void printLine(std::string_view text) {
 }
 
 void reportLine(std::string_view text) {
-  // Standard error is unbuffered: one piece makes one write of the whole line.
+  // Standard error is unbuffered: writing the line in one piece keeps it whole.
   std::string line(text);
   line += '\n';
   std::fwrite(line.data(), 1, line.size(), stderr);

@@ -43,7 +43,7 @@ Words wordsOf(const Completion& completion) {
 
 Words allOptions(bool withFileOptions) {
   Words forms;
-  for (const Option& option : OptionTable()) {
+  for (const Option& option : kOptionTable) {
     if (withFileOptions || option.effect != OptionEffect::workFile) {
       forms.emplace_back(option.longForm);
       forms.emplace_back(option.shortForm);

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "completion/candidate_list.h"
-#include "json/find_member.h"
-#include "json/resolve_key_path.h"
+#include "json/member_finder.h"
+#include "json/path/resolve_key_path.h"
 
 namespace kovalt::test {
 namespace {

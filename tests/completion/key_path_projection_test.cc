@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "completion/key_path_candidates.h"
-#include "json/key_path.h"
-#include "json/load_document.h"
+#include "json/load/load_document.h"
+#include "json/path/key_path.h"
 #include "unit/capture.h"
 #include "unit/json_text.h"
 #include "unit/memory_file.h"
@@ -31,7 +31,7 @@ class KeyPathProjection : public testing::Test {
   Document load(const std::string& json, const Projection& projection) {
     file_.write(json);
     Document document;
-    EXPECT_TRUE(loadProjected(file_.path(), projection, document)) << json;
+    EXPECT_TRUE(loadProjected(file_.path(), projection, document, false)) << json;
     return document;
   }
 
@@ -51,7 +51,7 @@ class KeyPathProjection : public testing::Test {
     return load(json, projection);
   }
 
-  std::string kept(const std::string& json, const std::string& word) { return textOf(loadFor(json, {word})); }
+  std::string kept(const std::string& json, const std::string& word) { return jsonOf(loadFor(json, {word})); }
 
  private:
   MemoryFile file_;

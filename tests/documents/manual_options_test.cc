@@ -51,7 +51,7 @@ std::vector<std::string> optionLinesOfManual() {
 
 TEST(ManualOptions, AreThoseOfTheTable) {
   std::vector<std::string> expected;
-  for (const Option& option : OptionTable()) {
+  for (const Option& option : kOptionTable) {
     expected.push_back(lineInManual(option));
   }
   std::vector<std::string> listed = optionLinesOfManual();

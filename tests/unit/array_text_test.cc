@@ -1,5 +1,4 @@
-#include "actions/read/array_text.h"
-
+#include "actions/read/read_array_actions.h"
 #include "row.h"
 
 namespace kovalt::test {

@@ -1,5 +1,4 @@
-#include "actions/read/concat_records.h"
-
+#include "actions/read/read_object_array_concat_action.h"
 #include "row.h"
 
 namespace kovalt::test {

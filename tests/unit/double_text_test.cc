@@ -1,4 +1,4 @@
-#include "json/double_text.h"
+#include "json/write/double_text.h"
 
 #include <gtest/gtest.h>
 #include <rapidjson/internal/dtoa.h>
@@ -25,13 +25,13 @@ constexpr int kTries = 600;
 constexpr int kTries = 50;
 #endif
 
-std::string textOf(double value) {
-  std::array<char, kLongestNumber> text{};
+std::string jsonOf(double value) {
+  std::array<char, kLongestDouble> text{};
   return {text.data(), writeDouble(value, text.data())};
 }
 
 std::string textOfRapidJson(double value) {
-  std::array<char, kLongestNumber> text{};
+  std::array<char, kLongestDouble> text{};
   return {text.data(), rapidjson::internal::dtoa(value, text.data())};
 }
 
@@ -75,7 +75,7 @@ bool readsFromFewer(const Digits& digits, double value) {
 
 /// Checks the text of one number above zero. Returns whether RapidJSON's is the same.
 bool check(double value) {
-  const std::string text = textOf(value);
+  const std::string text = jsonOf(value);
   const std::string theirs = textOfRapidJson(value);
   const Digits digits = digitsOf(text);
   const std::size_t theirLength = digitsOf(theirs).text.size();
@@ -137,8 +137,8 @@ struct NumberRow : Row {
 class NumberText : public testing::TestWithParam<NumberRow> {};
 
 TEST_P(NumberText, IsAsWritten) {
-  EXPECT_EQ(textOf(GetParam().value), GetParam().text);
-  EXPECT_EQ(textOf(-GetParam().value), "-" + GetParam().text);
+  EXPECT_EQ(jsonOf(GetParam().value), GetParam().text);
+  EXPECT_EQ(jsonOf(-GetParam().value), "-" + GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -4,8 +4,7 @@
 #include <type_traits>
 
 #include "actions/edit/add_file_at_action.h"
-#include "actions/edit/array_additions.h"
-#include "actions/edit/scalar_additions.h"
+#include "actions/edit/additions.h"
 #include "capture.h"
 #include "json_text.h"
 #include "row.h"
@@ -18,13 +17,18 @@ using namespace std::string_literals;
 static_assert(std::has_virtual_destructor_v<EditAction>, "actions are deleted through it");
 
 bool apply(const EditAction& action, Value* target, Document& document) {
-  MemberFinder members;
-  return action.apply(target, document.GetAllocator(), members);
+  EditedDocument edited(document);
+  return action.apply(target, edited);
+}
+
+bool applyAtPath(const EditAction& action, Document& document) {
+  EditedDocument edited(document);
+  return kovalt::applyAtPath(action, edited);
 }
 
 Value chainOf(const EditAction& action, Document& document) {
-  MemberFinder members;
-  return buildPathChain(action, document.GetAllocator(), members);
+  EditedDocument edited(document);
+  return buildPathChain(action, edited);
 }
 
 TEST(EditAction, OfItselfChangesNothing) {
@@ -32,7 +36,7 @@ TEST(EditAction, OfItselfChangesNothing) {
     SCOPED_TRACE(json);
     Document document = parsed(json);
     EXPECT_TRUE(apply(EditAction("a.b"), &document, document));
-    EXPECT_EQ(textOf(document), json);
+    EXPECT_EQ(jsonOf(document), json);
   }
 }
 
@@ -90,7 +94,7 @@ TEST_P(Addition, ReplacesWhateverTheTargetHeld) {
     SCOPED_TRACE(json);
     Document document = parsed(json);
     EXPECT_TRUE(apply(*GetParam().action, &document, document));
-    EXPECT_EQ(textOf(document), GetParam().made);
+    EXPECT_EQ(jsonOf(document), GetParam().made);
   }
 }
 
@@ -100,12 +104,11 @@ TEST_P(Addition, LeavesItsValueInTheDocumentWhenItIsGone) {
     const std::vector<AdditionRow> rows = additionRows();
     for (const AdditionRow& row : rows) {
       if (row.name == GetParam().name) {
-        Lookups lookups;
-        EXPECT_TRUE(applyAtPath(*row.action, document, lookups));
+        EXPECT_TRUE(applyAtPath(*row.action, document));
       }
     }
   }
-  EXPECT_EQ(textOf(document), R"({"k":)" + GetParam().made + "}");
+  EXPECT_EQ(jsonOf(document), R"({"k":)" + GetParam().made + "}");
 }
 
 INSTANTIATE_TEST_SUITE_P(EditAction, Addition, testing::ValuesIn(additionRows()), rowName<AdditionRow>);
@@ -127,7 +130,7 @@ TEST(AddBooleanAction, LeavesTheTargetAloneForAnyOtherWord) {
   bool applied = true;
   const Printed printed = capture([&] { applied = apply(AddBooleanAction("k", "True1"), &document, document); });
   EXPECT_FALSE(applied);
-  EXPECT_EQ(textOf(document), R"({"a":1})");
+  EXPECT_EQ(jsonOf(document), R"({"a":1})");
   EXPECT_EQ(printed.errors, "Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, true1 rejected.\n");
   EXPECT_EQ(printed.output, "");
 }
@@ -141,7 +144,7 @@ TEST(AddFileAtAction, MakesAnObjectEvenWithoutItsFile) {
     const Printed printed =
         capture([&] { applied = apply(AddFileAtAction("k", "no/such/file"), &document, document); });
     EXPECT_TRUE(applied);
-    EXPECT_EQ(textOf(document), after);
+    EXPECT_EQ(jsonOf(document), after);
     EXPECT_EQ(printed.errors, "Could not open document: no/such/file\n");
   }
 }
@@ -153,10 +156,10 @@ class ObservedAction : public EditAction {
  public:
   ObservedAction(std::string_view keyPath, bool result) : EditAction(keyPath), result_(result) {}
 
-  bool apply(Value* target, Allocator& allocator, MemberFinder& /*members*/) const override {
+  bool apply(Value* target, EditedDocument& document) const override {
     ++calls;
     lastTarget = target;
-    lastAllocator = &allocator;
+    lastAllocator = &document.allocator;
     targetWasNull = target->IsNull();
     target->SetString("applied");
     return result_;
@@ -176,8 +179,7 @@ TEST(ApplyAtPath, AppliesOnceToTheValueInTheDocument) {
     SCOPED_TRACE(result);
     Document document = parsed(R"({"a":{"b":1}})");
     const ObservedAction action("a.b", result);
-    Lookups lookups;
-    EXPECT_EQ(applyAtPath(action, document, lookups), result);
+    EXPECT_EQ(applyAtPath(action, document), result);
     EXPECT_EQ(action.calls, 1);
     EXPECT_EQ(action.lastTarget, &document["a"]["b"]);
     EXPECT_EQ(action.lastAllocator, &document.GetAllocator());
@@ -187,16 +189,14 @@ TEST(ApplyAtPath, AppliesOnceToTheValueInTheDocument) {
 TEST(ApplyAtPath, AppliesToTheRootWithoutSteps) {
   Document document = parsed(R"({"a":1})");
   const ObservedAction action("", true);
-  Lookups lookups;
-  EXPECT_TRUE(applyAtPath(action, document, lookups));
+  EXPECT_TRUE(applyAtPath(action, document));
   EXPECT_EQ(action.lastTarget, &document);
 }
 
 TEST(ApplyAtPath, AppliesInsideASelectedElement) {
   Document document = parsed(R"({"l":[{"id":1,"v":0},{"id":2,"v":0}]})");
-  Lookups lookups;
-  EXPECT_TRUE(applyAtPath(ObservedAction("l.id=2.v", true), document, lookups));
-  EXPECT_EQ(textOf(document), R"({"l":[{"id":1,"v":0},{"id":2,"v":"applied"}]})");
+  EXPECT_TRUE(applyAtPath(ObservedAction("l.id=2.v", true), document));
+  EXPECT_EQ(jsonOf(document), R"({"l":[{"id":1,"v":0},{"id":2,"v":"applied"}]})");
 }
 
 TEST(ApplyAtPath, DoesNotCallTheActionWithoutATarget) {
@@ -204,10 +204,9 @@ TEST(ApplyAtPath, DoesNotCallTheActionWithoutATarget) {
     SCOPED_TRACE(path);
     Document document = parsed(R"({"a":{"b":1},"l":[{"id":1}]})");
     const ObservedAction action(path, true);
-    Lookups lookups;
-    capture([&] { EXPECT_FALSE(applyAtPath(action, document, lookups)); });
+    capture([&] { EXPECT_FALSE(applyAtPath(action, document)); });
     EXPECT_EQ(action.calls, 0);
-    EXPECT_EQ(textOf(document), R"({"a":{"b":1},"l":[{"id":1}]})");
+    EXPECT_EQ(jsonOf(document), R"({"a":{"b":1},"l":[{"id":1}]})");
   }
 }
 
@@ -220,7 +219,7 @@ TEST(BuildPathChain, AppliesOnceToAFreshNullWhateverTheResult) {
     EXPECT_EQ(action.calls, 1);
     EXPECT_TRUE(action.targetWasNull);
     EXPECT_EQ(action.lastAllocator, &document.GetAllocator());
-    EXPECT_EQ(textOf(chain), R"({"a":{"id=1":{"":"applied"}}})");
+    EXPECT_EQ(jsonOf(chain), R"({"a":{"id=1":{"":"applied"}}})");
   }
 }
 
@@ -228,13 +227,13 @@ TEST(BuildPathChain, KeepsNullForARejectedBoolean) {
   Document document;
   Value chain;
   const Printed printed = capture([&] { chain = chainOf(AddBooleanAction("a.b", "yes"), document); });
-  EXPECT_EQ(textOf(chain), R"({"a":{"b":null}})");
+  EXPECT_EQ(jsonOf(chain), R"({"a":{"b":null}})");
   EXPECT_EQ(printed.errors, "Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, yes rejected.\n");
 }
 
 TEST(BuildPathChain, IsTheBareValueWithoutSteps) {
   Document document;
-  EXPECT_EQ(textOf(chainOf(AddStringAction("", "v"), document)), R"("v")");
+  EXPECT_EQ(jsonOf(chainOf(AddStringAction("", "v"), document)), R"("v")");
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
-#include "json/find_member.h"
-
 #include <optional>
 
+#include "json/member_finder.h"
 #include "json_text.h"
 #include "row.h"
 
@@ -59,22 +58,19 @@ class MemberByName : public testing::TestWithParam<MemberRow> {};
 
 TEST_P(MemberByName, IsFoundOrNot) {
   const MemberRow& row = GetParam();
-  Document document = parsed(row.json);
-  Value* found = findMember(document, row.member);
+  const Document document = parsed(row.json);
+  const Value* found = findMember(document, row.member);
   ASSERT_EQ(found != nullptr, row.found.has_value());
   if (found != nullptr) {
-    EXPECT_EQ(textOf(*found), *row.found);
+    EXPECT_EQ(jsonOf(*found), *row.found);
   }
-  EXPECT_EQ(findMember(static_cast<const Value&>(document), row.member), found);
 }
 
 INSTANTIATE_TEST_SUITE_P(FindMember, MemberByName, testing::ValuesIn(memberRows()), rowName<MemberRow>);
 
-TEST(FindMember, GivesTheValueInsideTheDocument) {
-  Document document = parsed(R"({"a":1,"b":2,"a":3})");
+TEST(FindMember, ReturnsTheValueInTheDocument) {
+  const Document document = parsed(R"({"a":1,"b":2,"a":3})");
   EXPECT_EQ(findMember(document, "a"), &document.MemberBegin()->value);
-  findMember(document, "b")->SetString("x");
-  EXPECT_EQ(textOf(document), R"({"a":1,"b":"x","a":3})");
 }
 
 TEST(FindMember, LooksAtNoByteBehindTheName) {

@@ -1,4 +1,4 @@
-#include "json/find_object_by_ref.h"
+#include "json/path/find_object_by_ref.h"
 
 #include "capture.h"
 #include "json_text.h"

@@ -15,7 +15,7 @@ Document parsed(std::string_view text) {
 
 Value parsedInto(std::string_view text, Allocator& allocator) { return {parsed(text), allocator}; }
 
-std::string textOf(const Value& value) {
+std::string jsonOf(const Value& value) {
   rapidjson::StringBuffer buffer;
   rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
   value.Accept(writer);

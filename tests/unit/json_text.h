@@ -16,6 +16,6 @@ Document parsed(std::string_view text);
 Value parsedInto(std::string_view text, Allocator& allocator);
 
 /// The text of `value` without any white space.
-std::string textOf(const Value& value);
+std::string jsonOf(const Value& value);
 
 }  // namespace kovalt::test

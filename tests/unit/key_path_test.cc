@@ -1,4 +1,4 @@
-#include "json/key_path.h"
+#include "json/path/key_path.h"
 
 #include <type_traits>
 

@@ -1,4 +1,4 @@
-#include "json/load_document.h"
+#include "json/load/load_document.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>

@@ -3,14 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <functional>
 #include <random>
 #include <string>
 #include <unordered_map>
 #include <utility>
 
-#include "json/find_member.h"
-#include "json/text_value.h"
+#include "json/document.h"
 #include "json_text.h"
 
 namespace kovalt::test {
@@ -37,9 +35,9 @@ class FoundMembers : public testing::TestWithParam<int> {
     if (number(10) >= removalsInTen) {
       return;
     }
-    Document expected = parsed(textOf(object()));
+    Document expected = parsed(jsonOf(object()));
     EXPECT_EQ(finder.remove(object(), name), expected.RemoveMember(referToText(name)));
-    ASSERT_EQ(textOf(object()), textOf(expected));
+    ASSERT_EQ(jsonOf(object()), jsonOf(expected));
   }
 
   Value& object() { return document["o"]; }
@@ -48,7 +46,7 @@ class FoundMembers : public testing::TestWithParam<int> {
   MemberFinder finder;
 
  private:
-  static std::string textOf(const Value& value) { return test::textOf(value); }
+  static std::string jsonOf(const Value& value) { return test::jsonOf(value); }
 
   std::mt19937 random_{7};
 };
@@ -82,12 +80,14 @@ TEST_P(FoundMembers, AreThoseOfTheObjectThatTookThePlaceOfAnother) {
 
 INSTANTIATE_TEST_SUITE_P(MemberFinder, FoundMembers, testing::Values(1, 2, 10, 100, 1000));
 
+const TextHash kHash(0, 0);
+
 /// Two names whose hashes are equal in the 32 bits that an index keeps.
 std::pair<std::string, std::string> equalHashes() {
   std::unordered_map<std::uint32_t, std::string> seen;
   for (int i = 0;; ++i) {
     const std::string text = std::to_string(i);
-    const auto hash = static_cast<std::uint32_t>(std::hash<std::string_view>()(text));
+    const auto hash = static_cast<std::uint32_t>(kHash(text));
     const auto [other, isNew] = seen.emplace(hash, text);
     if (!isNew) {
       return {other->second, text};
@@ -102,14 +102,17 @@ TEST(MemberFinder, TellsNamesWithEqualHashesApart) {
     json += R"(,"member )" + std::to_string(i) + R"(":0)";
   }
   Document document = parsed(json + "}");
-  MemberFinder finder;
+  MemberFinder finder(kHash);
   for (int i = 0; i < 50; ++i) {
     ASSERT_EQ(finder.find(document, other), nullptr);
     ASSERT_EQ(finder.find(document, one), &document.MemberBegin()->value);
   }
   Value name = copyText(other, document.GetAllocator());
   finder.append(document, name, Value(2).Move(), document.GetAllocator());
-  EXPECT_EQ(finder.find(document, other), &(document.MemberEnd() - 1)->value);
+  // Often enough for the index to get the appended member.
+  for (int i = 0; i < 50; ++i) {
+    ASSERT_EQ(finder.find(document, other), &(document.MemberEnd() - 1)->value);
+  }
   EXPECT_EQ(finder.find(document, one), &document.MemberBegin()->value);
 }
 

@@ -30,7 +30,7 @@ class Merge {
   Merge(const std::string& target, const std::string& source)
       : target_(parsed(target)), source_(parsedInto(source, target_.GetAllocator())) {}
 
-  void run() { mergeValue(target_, source_, target_.GetAllocator(), members_); }
+  void run() { mergeValue(target_, source_, edited_); }
 
   [[nodiscard]] const Value& target() const { return target_; }
   [[nodiscard]] const Value& source() const { return source_; }
@@ -38,7 +38,7 @@ class Merge {
  private:
   Document target_;
   Value source_;
-  MemberFinder members_;
+  EditedDocument edited_{target_};
 };
 
 struct MergeRow : Row {
@@ -145,7 +145,7 @@ class MergedObjects : public testing::TestWithParam<MergeRow> {};
 TEST_P(MergedObjects, HoldWhatBothHeld) {
   Merge merge(GetParam().target, GetParam().source);
   const Printed printed = capture([&] { merge.run(); });
-  EXPECT_EQ(textOf(merge.target()), GetParam().merged);
+  EXPECT_EQ(jsonOf(merge.target()), GetParam().merged);
   EXPECT_EQ(printed.output + printed.errors, "");
 }
 
@@ -195,7 +195,7 @@ TEST_P(TypesDeathTest, AgreeOrEndTheProcess) {
   Merge merge(R"({"first":1,"k":)" + target.target + "}", R"({"k":)" + source.source + R"(,"last":2})");
   if (target.name == source.name) {
     merge.run();
-    EXPECT_EQ(textOf(merge.target()), R"({"first":1,"k":)" + target.merged + R"(,"last":2})");
+    EXPECT_EQ(jsonOf(merge.target()), R"({"first":1,"k":)" + target.merged + R"(,"last":2})");
   } else {
     EXPECT_EXIT(merge.run(), testing::ExitedWithCode(1), testing::Eq("Incompatible types for key k\n"));
   }
@@ -259,7 +259,7 @@ TEST(MergeValueDeathTest, NeedsAnObjectAsTarget) {
 /// Names and numbers in order; a name may stand there twice.
 using Members = std::vector<std::pair<std::string, std::uint32_t>>;
 
-std::string jsonOf(const Members& members) {
+std::string membersText(const Members& members) {
   std::string text = "{";
   for (const auto& [name, number] : members) {
     text += (text.size() > 1 ? ",\"" : "\"") + name + "\":" + std::to_string(number);
@@ -298,18 +298,18 @@ TEST_P(ManyMembers, AreMergedAsOneByOne) {
   const auto nameCount = static_cast<std::uint32_t>(targetCount + sourceCount + 1);
   const Members target = makeMembers(targetCount, nameCount, 1);
   const Members source = makeMembers(sourceCount, nameCount, 2);
-  Merge merge(jsonOf(target), jsonOf(source));
+  Merge merge(membersText(target), membersText(source));
   merge.run();
-  EXPECT_TRUE(textOf(merge.target()) == jsonOf(mergedOneByOne(target, source)));
+  EXPECT_TRUE(jsonOf(merge.target()) == membersText(mergedOneByOne(target, source)));
 }
 
 TEST_P(ManyMembers, OfOneNameAreMergedAsOneByOne) {
   const auto [targetCount, sourceCount] = GetParam();
   const Members target = makeMembers(targetCount, 1, 1);
   const Members source = makeMembers(sourceCount, 1, 2);
-  Merge merge(jsonOf(target), jsonOf(source));
+  Merge merge(membersText(target), membersText(source));
   merge.run();
-  EXPECT_TRUE(textOf(merge.target()) == jsonOf(mergedOneByOne(target, source)));
+  EXPECT_TRUE(jsonOf(merge.target()) == membersText(mergedOneByOne(target, source)));
 }
 
 INSTANTIATE_TEST_SUITE_P(MergeValue, ManyMembers,

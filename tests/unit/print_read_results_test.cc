@@ -66,7 +66,7 @@ TEST(PrintReadResults, GathersSeveralReadsAndLeavesTheDocumentAlone) {
 }
 )");
   EXPECT_EQ(outcome.printed.errors, "--read error : Path \"b\" does not exist\n");
-  EXPECT_EQ(textOf(document), R"({"a":"x","n":[1,"y"]})");
+  EXPECT_EQ(jsonOf(document), R"({"a":"x","n":[1,"y"]})");
 }
 
 TEST(ReadAction, LeavesTheTextEmptyWhereThereIsNothing) {

@@ -1,5 +1,3 @@
-#include "json/print_value.h"
-
 #include <gtest/gtest.h>
 
 #include <array>
@@ -7,6 +5,7 @@
 
 #include "capture.h"
 #include "json/document.h"
+#include "json/write/write_value.h"
 
 namespace kovalt::test {
 namespace {

@@ -1,6 +1,6 @@
 // What a load keeps of a document for the walks of reads.
 
-#include "json/projection.h"
+#include "json/load/projection.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 
 #include "actions/read/read_object_array_concat_action.h"
 #include "capture.h"
-#include "json/load_document.h"
+#include "json/load/load_document.h"
 #include "json_text.h"
 #include "memory_file.h"
 
@@ -23,17 +23,17 @@ class ProjectionTest : public testing::Test {
     file_.write(content);
     Document document;
     bool loaded = false;
-    const Printed printed = capture([&] { loaded = loadProjected(file_.path(), projection, document); });
+    const Printed printed = capture([&] { loaded = loadProjected(file_.path(), projection, document, false); });
     EXPECT_EQ(printed.output, "");
     EXPECT_EQ(printed.errors, loaded ? "" : "Could not parse json file " + file_.path() + "\n");
-    return loaded ? textOf(document) : "(refused)";
+    return loaded ? jsonOf(document) : "(refused)";
   }
 
   /// What is kept for reads of these key paths.
   std::string kept(const std::string& content, const std::vector<std::string>& keyPaths) {
     Projection projection;
     for (const std::string& keyPath : keyPaths) {
-      ReadAction(keyPath).keepValue(projection, Projection::kRoot);
+      ReadAction(keyPath).addTo(projection, Projection::kRoot);
     }
     return kept(content, projection);
   }
@@ -42,7 +42,7 @@ class ProjectionTest : public testing::Test {
   std::string keptOfFields(const std::string& content, const std::string& keyPath,
                            const std::vector<std::string>& fields) {
     Projection projection;
-    ReadObjectArrayConcatAction(keyPath, fields, " ").keepFields(projection, Projection::kRoot);
+    ReadObjectArrayConcatAction(keyPath, fields, " ").addTo(projection, Projection::kRoot);
     return kept(content, projection);
   }
 
@@ -64,7 +64,7 @@ TEST_F(ProjectionTest, KeepsValuesOfEveryKind) {
       R"("a":null,"b":true,"c":false,"d":-1,"e":1,"f":-4294967296,"g":18446744073709551615,"h":-0.5,"i":"\u00e9\n")";
   const std::string text = '{' + members + R"(,"j":[],"k":{}})";
   Document whole = parsed(text);
-  EXPECT_EQ(kept(text, {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k"}), textOf(whole));
+  EXPECT_EQ(kept(text, {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k"}), jsonOf(whole));
   for (const char* scalar : {"null", "true", "-7", "7", "0.5", R"("long enough to stand outside of its value")"}) {
     EXPECT_EQ(kept(scalar, {""}), scalar);
     EXPECT_EQ(kept(scalar, {"a"}), "null");
@@ -106,7 +106,7 @@ TEST_F(ProjectionTest, KeepsTheFieldsOfEachElement) {
   const std::string text = R"({"l":[{"x":1,"i":7,"h":{"p":1,"q":[2]}},{"h":{"q":{"r":3}},"i":"b"},5,[6]]})";
   EXPECT_EQ(keptOfFields(text, "l", {"i", "h.q"}),
             R"({"l":[{"i":7,"h":{"q":[2]}},{"h":{"q":{"r":3}},"i":"b"},null,[]]})");
-  EXPECT_EQ(keptOfFields(text, "l", {}), R"({"l":[{},{},null,[]]})");
+  EXPECT_EQ(keptOfFields(text, "l", {}), text);
   EXPECT_EQ(keptOfFields(text, "l", {""}), text);
   EXPECT_EQ(keptOfFields(text, "", {"l"}), "{}");
   EXPECT_EQ(keptOfFields(R"([[{"a":1,"b":2}],[]])", "", {"a=1.b"}), R"([[{"a":1,"b":2}],[]])");
@@ -168,7 +168,7 @@ TEST_F(ProjectionTest, PassesOverJustWhatAWholeLoadTakesWhereverAPieceEnds) {
 
 TEST(Projection, KnowsAFileThatIsMissing) {
   Document document;
-  const Printed printed = capture([&] { EXPECT_FALSE(loadProjected("/none", {}, document)); });
+  const Printed printed = capture([&] { EXPECT_FALSE(loadProjected("/none", {}, document, false)); });
   EXPECT_EQ(printed.errors, "");
   EXPECT_TRUE(document.IsNull());
 }
@@ -179,7 +179,7 @@ TEST(Projection, TakesAPathOfVeryManySteps) {
     keyPath += ".a";
   }
   Projection projection;
-  ReadAction(keyPath).keepValue(projection, Projection::kRoot);
+  ReadAction(keyPath).addTo(projection, Projection::kRoot);
   EXPECT_EQ(projection.size(), 200'002U);
 }
 

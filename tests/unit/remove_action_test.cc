@@ -102,10 +102,10 @@ class Removal : public testing::TestWithParam<RemovalRow> {
     Document document = parsed(GetParam().json);
     const RemoveAction action(GetParam().path, emptyParents);
     bool succeeded = false;
-    MemberFinder members;
-    const Printed printed = capture([&] { succeeded = action.execute(document, members); });
+    EditedDocument edited(document);
+    const Printed printed = capture([&] { succeeded = action.execute(edited); });
     EXPECT_EQ(succeeded, GetParam().succeeds);
-    EXPECT_EQ(textOf(document), after);
+    EXPECT_EQ(jsonOf(document), after);
     EXPECT_EQ(printed.output + printed.errors, "");
   }
 };
@@ -142,16 +142,16 @@ class SkippedStepDeathTest : public testing::TestWithParam<SkippedRow> {};
 
 TEST_P(SkippedStepDeathTest, IsNoErrorWithoutClearing) {
   Document document = parsed(GetParam().json);
-  MemberFinder members;
-  EXPECT_TRUE(RemoveAction(GetParam().path, EmptyParents::keep).execute(document, members));
-  EXPECT_EQ(textOf(document), GetParam().after);
+  EditedDocument edited(document);
+  EXPECT_TRUE(RemoveAction(GetParam().path, EmptyParents::keep).execute(edited));
+  EXPECT_EQ(jsonOf(document), GetParam().after);
 }
 
 TEST_P(SkippedStepDeathTest, EndsTheProcessWhenClearing) {
   Document document = parsed(GetParam().json);
   const RemoveAction action(GetParam().path, EmptyParents::clear);
-  MemberFinder members;
-  EXPECT_DEATH(action.execute(document, members), "");
+  EditedDocument edited(document);
+  EXPECT_DEATH(action.execute(edited), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(RemoveAction, SkippedStepDeathTest, testing::ValuesIn(skippedRows()), rowName<SkippedRow>);
@@ -162,8 +162,8 @@ TEST(RemoveActionDeathTest, NeedsAnObjectAsRootForASingleStep) {
       SCOPED_TRACE(json);
       Document document = parsed(json);
       const RemoveAction action("a", emptyParents);
-      MemberFinder members;
-      EXPECT_DEATH(action.execute(document, members), "IsObject\\(\\)");
+      EditedDocument edited(document);
+      EXPECT_DEATH(action.execute(edited), "IsObject\\(\\)");
     }
   }
 }
@@ -171,14 +171,14 @@ TEST(RemoveActionDeathTest, NeedsAnObjectAsRootForASingleStep) {
 TEST(RemoveAction, ChangesNothingWhenItIsRepeated) {
   Document document = parsed(R"({"a":{"b":1,"c":2},"d":3})");
   const RemoveAction several("a.b", EmptyParents::clear);
-  MemberFinder members;
-  EXPECT_TRUE(several.execute(document, members));
-  EXPECT_TRUE(several.execute(document, members));
-  EXPECT_EQ(textOf(document), R"({"a":{"c":2},"d":3})");
+  EditedDocument edited(document);
+  EXPECT_TRUE(several.execute(edited));
+  EXPECT_TRUE(several.execute(edited));
+  EXPECT_EQ(jsonOf(document), R"({"a":{"c":2},"d":3})");
   const RemoveAction single("d", EmptyParents::clear);
-  EXPECT_TRUE(single.execute(document, members));
-  EXPECT_FALSE(single.execute(document, members));
-  EXPECT_EQ(textOf(document), R"({"a":{"c":2}})");
+  EXPECT_TRUE(single.execute(edited));
+  EXPECT_FALSE(single.execute(edited));
+  EXPECT_EQ(jsonOf(document), R"({"a":{"c":2}})");
 }
 
 }  // namespace

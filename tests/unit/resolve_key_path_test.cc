@@ -1,4 +1,4 @@
-#include "json/resolve_key_path.h"
+#include "json/path/resolve_key_path.h"
 
 #include <optional>
 
@@ -99,14 +99,14 @@ TEST_P(Walk, EndsAtTheSameValueQuietlyAndReporting) {
   EXPECT_EQ(found, read);
   ASSERT_EQ(found != nullptr, row.found.has_value());
   if (found != nullptr) {
-    EXPECT_EQ(textOf(*found), *row.found);
+    EXPECT_EQ(jsonOf(*found), *row.found);
   }
   EXPECT_EQ(quiet.errors, selectionErrors(row));
   EXPECT_EQ(reporting.errors, row.report == Report::missingMember
                                   ? "--read error : Path \"" + row.path + "\" does not exist\n"
                                   : selectionErrors(row));
   EXPECT_EQ(quiet.output + reporting.output, "");
-  EXPECT_EQ(textOf(document), textOf(parsed(row.json))) << "a walk changes nothing";
+  EXPECT_EQ(jsonOf(document), jsonOf(parsed(row.json))) << "a walk changes nothing";
 }
 
 INSTANTIATE_TEST_SUITE_P(ResolveKeyPath, Walk, testing::ValuesIn(walkRows()), rowName<WalkRow>);

@@ -7,9 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "actions/read/print_read_results.h"
 #include "app/parse_arguments.h"
 #include "app/run.h"
 #include "capture.h"
+#include "json/load/load_document.h"
 #include "json/standard_streams.h"
 #include "memory_file.h"
 
@@ -95,10 +97,15 @@ class SelectiveRead : public testing::Test {
     }
     ToolContext context;
     ASSERT_TRUE(parseArguments(context, static_cast<int>(arguments.size()), arguments.data()));
-    if (keepsAll) {
-      context.projection.addWhole(Projection::kRoot);
+    if (!keepsAll) {
+      run(context);
+      return;
     }
-    run(context);
+    Document document;
+    if (!loadDocument(path, document, false)) {
+      document.SetObject();
+    }
+    printReadResults(context.readActions, document);
   }
 
   /// What the calls print on both streams.

@@ -1,5 +1,4 @@
-#include "app/value_list.h"
-
+#include "app/parse_arguments.h"
 #include "row.h"
 #include "texts.h"
 

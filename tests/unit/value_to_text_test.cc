@@ -1,5 +1,4 @@
-#include "json/value_to_text.h"
-
+#include "json/write/write_value.h"
 #include "json_text.h"
 #include "row.h"
 

@@ -1,8 +1,8 @@
-#include "json/wrap_in_path.h"
+#include "json/path/wrap_in_path.h"
 
 #include <utility>
 
-#include "json/resolve_key_path.h"
+#include "json/path/resolve_key_path.h"
 #include "json_text.h"
 #include "row.h"
 
@@ -38,7 +38,7 @@ TEST_P(WrappedLeaf, HasOneObjectForEachStep) {
   Document document;
   const Value wrapped = wrapInPath(KeyPath(GetParam().path, "."), parsedInto(GetParam().leaf, document.GetAllocator()),
                                    document.GetAllocator());
-  EXPECT_EQ(textOf(wrapped), GetParam().wrapped);
+  EXPECT_EQ(jsonOf(wrapped), GetParam().wrapped);
 }
 
 TEST_P(WrappedLeaf, IsFoundAlongItsOwnPath) {
@@ -48,7 +48,7 @@ TEST_P(WrappedLeaf, IsFoundAlongItsOwnPath) {
   Lookups lookups;
   const Value* leaf = resolveExisting(path, wrapped, lookups);
   ASSERT_NE(leaf, nullptr);
-  EXPECT_EQ(textOf(*leaf), GetParam().leaf);
+  EXPECT_EQ(jsonOf(*leaf), GetParam().leaf);
 }
 
 INSTANTIATE_TEST_SUITE_P(WrapInPath, WrappedLeaf, testing::ValuesIn(wrapRows()), rowName<WrapRow>);
@@ -56,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(WrapInPath, WrappedLeaf, testing::ValuesIn(wrapRows()),
 TEST(WrapInPath, TakesASelectionAsAPlainName) {
   Document document;
   const Value wrapped = wrapInPath(KeyPath("list.name=x.v", "."), Value(1), document.GetAllocator());
-  EXPECT_EQ(textOf(wrapped), R"({"list":{"name=x":{"v":1}}})");
+  EXPECT_EQ(jsonOf(wrapped), R"({"list":{"name=x":{"v":1}}})");
 }
 
 TEST(WrapInPath, CopiesTheNamesOfThePath) {
@@ -73,7 +73,7 @@ TEST(WrapInPath, KeepsNulBytesOfTheSteps) {
   Document document;
   const KeyPath path(std::string_view("a\0b.c", 5), ".");
   Value wrapped = wrapInPath(path, Value(1), document.GetAllocator());
-  EXPECT_EQ(textOf(wrapped), R"({"a\u0000b":{"c":1}})");
+  EXPECT_EQ(jsonOf(wrapped), R"({"a\u0000b":{"c":1}})");
   Lookups lookups;
   EXPECT_NE(resolveExisting(path, wrapped, lookups), nullptr);
 }

@@ -1,25 +1,25 @@
 #include "actions/edit/add_file_at_action.h"
 
 #include "actions/edit/merge_value.h"
-#include "json/load_document.h"
+#include "json/load/load_document.h"
 
 namespace kovalt {
 
 AddFileAtAction::AddFileAtAction(std::string_view keyPath, std::string_view filePath)
     : EditAction(keyPath), value_(filePath) {}
 
-bool AddFileAtAction::apply(Value* target, Allocator& allocator, MemberFinder& members) const {
+bool AddFileAtAction::apply(Value* target, EditedDocument& document) const {
   if (target == nullptr) {
     return false;
   }
   // Built in the pool of the target, so that merging moves its values instead of copying them.
-  Document file(&allocator);
+  Document file(&document.allocator);
   file.SetObject();
   loadDocument(value_, file, true);
   if (!target->IsObject()) {
     target->SetObject();
   }
-  mergeValue(*target, file, allocator, members);
+  mergeValue(*target, file, document);
   return true;
 }
 

@@ -12,11 +12,10 @@ class AddFileAtAction : public EditAction {
  public:
   AddFileAtAction(std::string_view keyPath, std::string_view filePath);
 
-  /// Merges the file into `target`, which first becomes an empty object if it was none. Returns false only for a null
-  /// target. A file that cannot be opened or parsed is reported on standard error and counts as an empty object; one
-  /// whose root is no object ends the process through RapidJSON's assertion, and one whose types clash with those of
-  /// `target` as mergeValue says.
-  bool apply(Value* target, Allocator& allocator, MemberFinder& members) const override;
+  /// Merges the file into `target`, which first becomes an empty object if it is not an object. Returns false only for
+  /// a null target. A file that cannot be opened or parsed is reported on standard error and treated as an empty
+  /// object. If its root is not an object, or types clash, the process ends as `mergeValue` says.
+  bool apply(Value* target, EditedDocument& document) const override;
 
  private:
   std::string value_;

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "json/wrap_in_path.h"
+#include "json/path/wrap_in_path.h"
 
 namespace kovalt {
 
@@ -10,18 +10,18 @@ EditAction::EditAction(std::string_view keyPath) : keyPath_(keyPath) {}
 
 EditAction::~EditAction() = default;
 
-bool EditAction::apply(Value* /*target*/, Allocator& /*allocator*/, MemberFinder& /*members*/) const { return true; }
+bool EditAction::apply(Value* /*target*/, EditedDocument& /*document*/) const { return true; }
 
-bool applyAtPath(const EditAction& action, Document& document, Lookups& lookups) {
-  Value* target = resolveExisting(action.keyPath(), document, lookups);
-  return target != nullptr && action.apply(target, document.GetAllocator(), lookups.members);
+bool applyAtPath(const EditAction& action, EditedDocument& document) {
+  Value* target = resolveExisting(action.keyPath(), document.root, document.lookups);
+  return target != nullptr && action.apply(target, document);
 }
 
-Value buildPathChain(const EditAction& action, Allocator& allocator, MemberFinder& members) {
+Value buildPathChain(const EditAction& action, EditedDocument& document) {
   Value leaf;
-  // What was refused has been reported; the leaf then stays null.
-  action.apply(&leaf, allocator, members);
-  return wrapInPath(action.keyPath(), std::move(leaf), allocator);
+  // A value that is not accepted was reported; the leaf then stays null.
+  action.apply(&leaf, document);
+  return wrapInPath(action.keyPath(), std::move(leaf), document.allocator);
 }
 
 }  // namespace kovalt

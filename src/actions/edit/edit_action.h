@@ -1,12 +1,12 @@
 #pragma once
 
-// The common base of all additions, and how one is carried out.
+// The common base of all additions, and how one is executed.
 
 #include <string_view>
 
+#include "actions/edit/edited_document.h"
 #include "json/document.h"
-#include "json/key_path.h"
-#include "json/resolve_key_path.h"
+#include "json/path/key_path.h"
 
 namespace kovalt {
 
@@ -18,12 +18,11 @@ class EditAction {
   EditAction& operator=(const EditAction&) = delete;
   virtual ~EditAction();
 
-  /// Writes the action's value into `target`, whatever that held, allocating from `allocator`, the pool of the target's
-  /// document, and finding members with `members`. Returns false, having changed nothing, for a value that is not
-  /// accepted, after saying so on standard error, and for a null target, silently: a path that leads nowhere is no
-  /// fault of the action's, and may be handed on without a look. The base itself has no value: it changes nothing and
-  /// returns true.
-  virtual bool apply(Value* target, Allocator& allocator, MemberFinder& members) const;
+  /// Replaces `target`, a value of `document` or on its way into it, by the action's value, whatever it was. Returns
+  /// false with `target` unchanged for a value that is not accepted, after a report on standard error, and for a null
+  /// target, silently: a path that leads nowhere may be passed on unchecked. The base has no value: it changes nothing
+  /// and returns true.
+  virtual bool apply(Value* target, EditedDocument& document) const;
 
   [[nodiscard]] const KeyPath& keyPath() const { return keyPath_; }
 
@@ -31,12 +30,12 @@ class EditAction {
   KeyPath keyPath_;
 };
 
-/// Applies `action` to the value of `document` that its key path names. Returns what `apply` returned, or false without
-/// calling it where the document has no such value.
-bool applyAtPath(const EditAction& action, Document& document, Lookups& lookups);
+/// Applies `action` to the value of `document` that its key path names. Returns what `apply` returns, or false without
+/// calling it if the document has no such value.
+bool applyAtPath(const EditAction& action, EditedDocument& document);
 
-/// The value of `action`, made by one call of `apply` on a fresh null, inside one object for each step of its key path:
-/// merged into a document, it adds all that was missing.
-Value buildPathChain(const EditAction& action, Allocator& allocator, MemberFinder& members);
+/// Returns the value of `action`, made by one call of `apply` on a fresh null, inside one object for each step of its
+/// key path: merged into the document, it adds everything that was missing.
+Value buildPathChain(const EditAction& action, EditedDocument& document);
 
 }  // namespace kovalt

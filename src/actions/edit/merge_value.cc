@@ -3,39 +3,32 @@
 #include <string>
 #include <vector>
 
-#include "json/process_end.h"
+#include "json/process_exit.h"
 #include "json/standard_streams.h"
-#include "json/text_value.h"
 
 namespace kovalt {
 namespace {
 
-[[noreturn]] void endForIncompatibleTypes(std::string_view name) {
-  reportLine("Incompatible types for key " + std::string(name));
-  endWithFailure();
-}
-
-void appendElements(Value& target, Value& source, Allocator& allocator) {
-  for (Value& element : source.GetArray()) {
-    target.PushBack(element, allocator);
-  }
-}
-
-/// Moves `member` into `target`. But the object that another one meets is returned, both left alone; otherwise nullptr.
-Value* mergeMember(Value& target, Value::Member& member, Allocator& allocator, MemberFinder& members) {
+/// Merges `member` into `target` and returns nullptr. If both have an object of that name, changes nothing and returns
+/// the existing one, so that the caller can descend.
+Value* mergeMember(Value& target, Value::Member& member, EditedDocument& document) {
+  MemberFinder& members = document.lookups.members;
   Value* existing = members.find(target, textOf(member.name));
   if (existing == nullptr) {
-    members.append(target, member.name, member.value, allocator);
+    members.append(target, member.name, member.value, document.allocator);
     return nullptr;
   }
   if (existing->GetType() != member.value.GetType()) {
-    endForIncompatibleTypes(textOf(member.name));
+    reportLine("Incompatible types for key " + std::string(textOf(member.name)));
+    exitWithFailure();
   }
   if (existing->IsObject()) {
     return existing;
   }
   if (existing->IsArray()) {
-    appendElements(*existing, member.value, allocator);
+    for (Value& element : member.value.GetArray()) {
+      existing->PushBack(element, document.allocator);
+    }
   } else {
     *existing = member.value;
   }
@@ -44,22 +37,22 @@ Value* mergeMember(Value& target, Value::Member& member, Allocator& allocator, M
 
 }  // namespace
 
-void mergeValue(Value& target, Value& source, Allocator& allocator, MemberFinder& members) {
-  struct Rest {
+void mergeValue(Value& target, Value& source, EditedDocument& document) {
+  struct Remaining {
     Value* into;
     Value::MemberIterator next;
     Value::MemberIterator end;
   };
-  // Kept on the heap instead of the call stack, so that no depth of nesting can end the process.
-  std::vector<Rest> open = {{&target, source.GetObject().MemberBegin(), source.MemberEnd()}};
+  // Kept on the heap, so that no depth of nesting exhausts the call stack.
+  std::vector<Remaining> open = {{&target, source.GetObject().MemberBegin(), source.MemberEnd()}};
   while (!open.empty()) {
-    Rest& rest = open.back();
-    if (rest.next == rest.end) {
+    Remaining& remaining = open.back();
+    if (remaining.next == remaining.end) {
       open.pop_back();
       continue;
     }
-    Value::Member& member = *rest.next++;
-    if (Value* existing = mergeMember(*rest.into, member, allocator, members)) {
+    Value::Member& member = *remaining.next++;
+    if (Value* existing = mergeMember(*remaining.into, member, document)) {
       open.push_back({existing, member.value.MemberBegin(), member.value.MemberEnd()});
     }
   }

@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "json/process_end.h"
+#include "json/process_exit.h"
 
 namespace kovalt {
 namespace {
 
-/// The way to the object that holds the member which the last step names.
+/// The way to the object that has the member which the last step names.
 struct Walk {
   /// The root, then the object of each step but the last; nullptr for a step that was skipped.
   std::vector<Value*> ancestors;
@@ -16,7 +16,8 @@ struct Walk {
   Value* parent;
 };
 
-/// A step that names no object is no error: it is skipped, and the next one is looked up in the same object.
+/// A step that does not name an object is not an error: it is skipped, and the next one is looked up in the same
+/// object.
 Walk walkToParent(const std::vector<std::string>& steps, Value& root, MemberFinder& members) {
   Walk walk = {{&root}, &root};
   for (auto step = steps.begin(); step + 1 != steps.end(); ++step) {
@@ -31,14 +32,13 @@ Walk walkToParent(const std::vector<std::string>& steps, Value& root, MemberFind
   return walk;
 }
 
-/// Removes the ancestors that hold nothing, from the innermost outwards. Those that hold something stay, and so does
-/// the root.
+/// Removes the empty ancestors, from the innermost outwards. The others stay, and so does the root.
 void removeEmptyAncestors(const std::vector<std::string>& steps, const std::vector<Value*>& ancestors,
                           MemberFinder& members) {
   for (std::size_t i = ancestors.size() - 1; i > 0; --i) {
     if (ancestors[i] == nullptr || ancestors[i - 1] == nullptr) {
-      // Along a path with a skipped step it is not known what to clear: end before anything is printed or saved.
-      endAbnormally();
+      // It is not known what to clear along a path with a skipped step: abort before anything is printed or saved.
+      abortProcess();
     }
     if (ancestors[i]->ObjectEmpty()) {
       members.remove(*ancestors[i - 1], steps[i - 1]);
@@ -51,15 +51,16 @@ void removeEmptyAncestors(const std::vector<std::string>& steps, const std::vect
 RemoveAction::RemoveAction(std::string_view keyPath, EmptyParents emptyParents)
     : KeyPath(keyPath), emptyParents_(emptyParents) {}
 
-bool RemoveAction::execute(Document& document, MemberFinder& members) const {
+bool RemoveAction::execute(EditedDocument& document) const {
+  MemberFinder& members = document.lookups.members;
   if (steps().empty()) {
     return true;
   }
   if (steps().size() == 1) {
-    return members.remove(document, steps().front());
+    return members.remove(document.root, steps().front());
   }
-  const Walk walk = walkToParent(steps(), document, members);
-  // Unlike a single missing step, a missing last one counts as success, so the file is rewritten.
+  const Walk walk = walkToParent(steps(), document.root, members);
+  // Unlike a single missing step, a missing last step succeeds, so that the file is rewritten.
   if (walk.parent->IsObject() && members.remove(*walk.parent, steps().back()) && emptyParents_ == EmptyParents::clear) {
     removeEmptyAncestors(steps(), walk.ancestors, members);
   }

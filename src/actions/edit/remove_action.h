@@ -2,29 +2,26 @@
 
 #include <string_view>
 
-#include "json/document.h"
-#include "json/key_path.h"
-#include "json/member_finder.h"
+#include "actions/edit/edited_document.h"
+#include "json/path/key_path.h"
 
 namespace kovalt {
 
-/// What happens to the objects that a removal leaves empty.
+/// What happens to objects that a removal leaves empty.
 enum class EmptyParents { keep, clear };
 
-/// Removes the member that its key path names. All steps are plain member names here, selections included.
+/// Removes the member that its key path names. All steps are plain member names here, even with "=".
 class RemoveAction : public KeyPath {
  public:
   RemoveAction(std::string_view keyPath, EmptyParents emptyParents);
 
   /// Removes the member from `document`, and with `EmptyParents::clear` also every object on the way that is then
-  /// empty. The last member of an object takes the place of the removed one. Prints nothing.
+  /// empty. The last member of an object moves into the gap. Prints nothing.
   ///
-  /// Returns whether it succeeded: a path without steps and a path of several steps whose last is missing count as
-  /// success, a path of a single missing step does not. Ends the process where a single step meets a root that is no
-  /// object, and where objects are to be cleared along a path that skipped a step.
-  ///
-  /// `members` is the finder of all removals from `document`.
-  virtual bool execute(Document& document, MemberFinder& members) const;
+  /// Returns whether it succeeded. A path without steps always does, and so does a path of several steps whose last is
+  /// missing; a path of a single missing step does not. Aborts the process if the path has a single step and the root
+  /// is not an object, and if objects are to be cleared along a path that skipped a step.
+  virtual bool execute(EditedDocument& document) const;
 
  private:
   EmptyParents emptyParents_;

@@ -10,9 +10,9 @@
 
 namespace kovalt {
 
-/// Runs every action on the root of `document`, in order, and prints on standard output the bare text of a single read,
-/// or, for several, one object with a string member for each read that found something. A single read that found
-/// nothing prints nothing there. Returns whether there was any action. The object is made in the document's pool.
+/// Runs all actions on the root of `document`, in order, and prints on standard output: for a single action its bare
+/// text, or nothing if it found nothing; for several, one object with a string member for each that found something,
+/// which is allocated from the document's pool. Returns whether there are any actions.
 bool printReadResults(const std::vector<std::unique_ptr<ReadAction>>& actions, Document& document);
 
 }  // namespace kovalt

@@ -1,6 +1,6 @@
 #include "actions/read/read_action.h"
 
-#include "json/value_to_text.h"
+#include "json/write/write_value.h"
 
 namespace kovalt {
 
@@ -17,8 +17,16 @@ bool ReadAction::execute(const Value& value, std::string& text, Lookups& lookups
   return true;
 }
 
-void ReadAction::keepValue(Projection& projection, Projection::Place from) const {
-  projection.addWhole(projection.addWalk(*this, from));
+void ReadAction::addTo(Projection& projection, Projection::Place from) const {
+  const Projection::Place end = projection.addWalk(*this, from);
+  if (fields_.empty()) {
+    projection.addWhole(end);
+    return;
+  }
+  const Projection::Place element = projection.addElements(end);
+  for (const auto& field : fields_) {
+    field->addTo(projection, element);
+  }
 }
 
 }  // namespace kovalt

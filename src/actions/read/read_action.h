@@ -1,14 +1,15 @@
 #pragma once
 
-// The reading of one value, which is also the first step of every other read.
+// The read of one value, which is also the first step of every other read.
 
+#include <memory>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "json/document.h"
-#include "json/key_path.h"
-#include "json/projection.h"
-#include "json/resolve_key_path.h"
+#include "json/load/projection.h"
+#include "json/path/key_path.h"
+#include "json/path/resolve_key_path.h"
 
 namespace kovalt {
 
@@ -17,15 +18,18 @@ class ReadAction : public KeyPath {
  public:
   using KeyPath::KeyPath;
 
-  /// Puts the compact text of the value, walked from `value`, into `text`, which must be empty; a string goes without
-  /// its outer quotes, but keeps its escapes. Returns false with `text` still empty where there is no such value, which
-  /// has been reported on standard error.
-  ///
-  /// `lookups` are those of all reads from the same document.
+  /// Puts the compact text of the value, walked from `value`, into `text`, which must be empty. A string loses its
+  /// outer quotes but keeps its escapes. Returns false with `text` still empty if there is no such value, which is
+  /// reported on standard error. `lookups` are shared by all reads from the same document.
   virtual bool execute(const Value& value, std::string& text, Lookups& lookups) const;
 
-  /// Keeps what a read of the whole value looks at, walked from a value at `from`.
-  void keepValue(Projection& projection, Projection::Place from) const;
+  /// Adds what `execute` looks at, walked from a value at `from`: the whole value at the end of the path, or only the
+  /// fields of its elements if there are fields.
+  void addTo(Projection& projection, Projection::Place from) const;
+
+ protected:
+  /// Of a read that looks at nothing but these fields of each element of an array.
+  std::vector<std::unique_ptr<ReadAction>> fields_;
 };
 
 }  // namespace kovalt

@@ -1,31 +1,44 @@
 #include "actions/read/read_array_actions.h"
 
-#include "actions/read/array_text.h"
+#include <algorithm>
 
 namespace kovalt {
 
-bool ReadArrayCommaAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
-  const bool found = ReadAction::execute(value, text, lookups);
-  flattenArrayText(text, ElementSeparator::comma, StringQuotes::kept);
-  return found;
+bool isArrayText(const std::string& text) { return !text.empty() && text.front() == '[' && text.back() == ']'; }
+
+void stripBrackets(std::string& text) {
+  text.pop_back();
+  text.erase(0, 1);
 }
 
-bool ReadArrayCommaNoQuoteAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
-  const bool found = ReadAction::execute(value, text, lookups);
-  flattenArrayText(text, ElementSeparator::comma, StringQuotes::removed);
-  return found;
+void commasToSpaces(std::string& text) {
+  if (text.find('"') == std::string::npos) {
+    std::replace(text.begin(), text.end(), ',', ' ');
+    return;
+  }
+  bool inQuotes = false;
+  for (auto byte = text.begin(); byte != text.end() - 1; ++byte) {
+    if (*byte == '"') {
+      inQuotes = !inQuotes;
+    } else if (*byte == ',' && !inQuotes) {
+      *byte = ' ';
+    }
+  }
 }
 
-bool ReadArraySpaceAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
-  const bool found = ReadAction::execute(value, text, lookups);
-  flattenArrayText(text, ElementSeparator::space, StringQuotes::kept);
-  return found;
-}
+void removeQuotes(std::string& text) { text.erase(std::remove(text.begin(), text.end(), '"'), text.end()); }
 
-bool ReadArraySpaceNoQuoteAction::execute(const Value& value, std::string& text, Lookups& lookups) const {
-  const bool found = ReadAction::execute(value, text, lookups);
-  flattenArrayText(text, ElementSeparator::space, StringQuotes::removed);
-  return found;
+void flattenArrayText(std::string& text, ElementSeparator separator, StringQuotes quotes) {
+  if (!isArrayText(text)) {
+    return;
+  }
+  stripBrackets(text);
+  if (separator == ElementSeparator::space) {
+    commasToSpaces(text);
+  }
+  if (quotes == StringQuotes::removed) {
+    removeQuotes(text);
+  }
 }
 
 }  // namespace kovalt

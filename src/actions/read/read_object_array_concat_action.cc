@@ -2,9 +2,18 @@
 
 #include <algorithm>
 
-#include "actions/read/concat_records.h"
-
 namespace kovalt {
+
+std::string joined(const ConcatRecords& records) {
+  std::string text;
+  for (auto record = records.begin(); record != records.end(); ++record) {
+    text += (record == records.begin() ? "" : " ") + record->first;
+    if (record->second > 1) {
+      text += '(' + std::to_string(record->second) + ')';
+    }
+  }
+  return text;
+}
 
 ReadObjectArrayConcatAction::ReadObjectArrayConcatAction(std::string_view keyPath,
                                                          const std::vector<std::string>& fields,
@@ -28,32 +37,19 @@ bool ReadObjectArrayConcatAction::execute(const Value& value, std::string& text,
   return true;
 }
 
-void ReadObjectArrayConcatAction::keepFields(Projection& projection, Projection::Place from) const {
-  const Projection::Place element = projection.addElements(projection.addWalk(*this, from));
-  for (const auto& field : fields_) {
-    field->keepValue(projection, element);
-  }
-}
-
 std::string ReadObjectArrayConcatAction::readRecord(const Value& element) const {
-  // Shared by the fields only: with many elements, each is asked seldom.
+  // Shared by the fields only: of many elements, each is looked up in a few times.
   Lookups lookups;
   std::string record;
   for (std::size_t i = 0; i < fields_.size(); ++i) {
     std::string field;
     fields_[i]->execute(element, field, lookups);
-    if (i > 0) {
-      appendSeparator(record, i - 1);
+    if (i > 0 && !separators_.empty()) {
+      record += separators_[std::min(i, separators_.size()) - 1];
     }
     record += field;
   }
   return record;
-}
-
-void ReadObjectArrayConcatAction::appendSeparator(std::string& record, std::size_t fieldIndex) const {
-  if (!separators_.empty()) {
-    record += separators_[std::min(fieldIndex, separators_.size() - 1)];
-  }
 }
 
 }  // namespace kovalt

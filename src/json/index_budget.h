@@ -1,0 +1,37 @@
+#pragma once
+
+// When an index is worth its cost.
+
+#include <cstddef>
+
+namespace kovalt {
+
+/// What the lookups of one index may spend on it.
+///
+/// A lookup earns what it would cost to scan: its comparisons up to the match, or all of them. Each entry that is added
+/// to the index costs as much as `kEntryCost` comparisons; what is not in the index is scanned. So an index never costs
+/// more than the scans that it replaces, whatever a file contains and however often it changes.
+class IndexBudget {
+ public:
+  /// About how many comparisons take as long as adding one entry to an index. Objects and arrays with no more members
+  /// or elements than that are always scanned.
+  static constexpr std::size_t kEntryCost = 32;
+
+  /// Earns what a scan of so many comparisons costs.
+  void earn(std::size_t comparisons) { earned_ += comparisons; }
+
+  /// Pays for adding `entries` entries. Returns false, having paid nothing, if too little was earned.
+  bool pay(std::size_t entries) {
+    const std::size_t cost = entries * kEntryCost;
+    if (earned_ < cost) {
+      return false;
+    }
+    earned_ -= cost;
+    return true;
+  }
+
+ private:
+  std::size_t earned_ = 0;
+};
+
+}  // namespace kovalt

@@ -1,0 +1,104 @@
+#pragma once
+
+// The loop through a value, the one way through the text of a file.
+
+#include <rapidjson/rapidjson.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "json/load/scanner.h"
+
+namespace kovalt {
+
+/// The containers that are open at a place in a text, one bit each: a hostile text may open one with every byte.
+class ContainerStack {
+ public:
+  /// Opens a container, with `{` or `[`.
+  void open(char bracket) {
+    if (used_ % kWordSize == 0) {
+      outer_.push_back(innermost_);
+    }
+    ++used_;
+    innermost_ = innermost_ << 1 | (bracket == '{' ? 1 : 0);
+  }
+
+  /// Closes the innermost container. Requires that one is open.
+  void close() {
+    require(used_ > kUnused);
+    --used_;
+    innermost_ >>= 1;
+    if (used_ % kWordSize == 0) {
+      innermost_ = outer_.back();
+      outer_.pop_back();
+    }
+  }
+
+  /// The bracket that closes the innermost container; NUL if none is open.
+  [[nodiscard]] char closingBracket() const { return used_ == kUnused ? '\0' : (innermost_ & 1) != 0 ? '}' : ']'; }
+
+ private:
+  static constexpr std::size_t kWordSize = 64;
+  static constexpr std::size_t kUnused = 1;  ///< Bits of the first word, so that most texts need no other one.
+
+  std::size_t used_ = kUnused;        ///< The number of bits in all words.
+  std::uint64_t innermost_ = 0;       ///< The innermost containers; the lowest bit is the innermost one.
+  std::vector<std::uint64_t> outer_;  ///< The containers around them, in full words.
+};
+
+/// Parses the value at the cursor of `buffer`, which must be ready, and accepts what RapidJSON's reader accepts.
+/// Returns false if it is not JSON or `handler` refused it. On success a refill is pending at the cursor.
+///
+/// The handler consumes names, strings and all other scalars from the scanner; false means that the text is not JSON:
+///   bool name(Scanner&), bool string(Scanner&), bool other(Scanner&)
+/// It is called at the start of an array or object with its bracket and the number of elements or members of the
+/// container around it, this one included, and may return false: `other` must then consume it as a whole.
+///   bool open(char bracket, SizeType outerCount)
+/// It is called at the end of each container that it let open, with the closing bracket and the number of its elements
+/// or members, and returns the number that `open` got if it needs any numbers.
+///   SizeType close(char bracket, SizeType count)
+template <typename Handler>
+bool parseValue(InputBuffer& buffer, Handler& handler) {
+  Scanner scanner(buffer);
+  ContainerStack containers;
+  char closing = '\0';
+  rapidjson::SizeType count = 0;
+  while (true) {
+    if (closing == '}' && !(scanner.peek() == '"' && handler.name(scanner) && scanner.skipSeparator(':'))) {
+      return false;
+    }
+    ++count;
+    const char first = scanner.peek();
+    if (first == '"') {
+      if (!handler.string(scanner)) {
+        return false;
+      }
+    } else if ((first == '{' || first == '[') && handler.open(first, count)) {
+      containers.open(first);
+      closing = containers.closingBracket();
+      count = 0;
+      scanner.skipSeparator(first);
+      if (scanner.peek() != closing) {
+        continue;
+      }
+    } else if (!handler.other(scanner)) {
+      return false;
+    }
+    // What ends here may be the last element or member of several containers.
+    while (closing != '\0' && !scanner.skipSeparator(',')) {
+      if (scanner.peek() != closing) {
+        return false;
+      }
+      scanner.skipCharacter();
+      count = handler.close(closing, count);
+      containers.close();
+      closing = containers.closingBracket();
+    }
+    if (closing == '\0') {
+      return true;
+    }
+  }
+}
+
+}  // namespace kovalt

@@ -1,0 +1,29 @@
+#pragma once
+
+// The walks of a key path through a document.
+
+#include "json/document.h"
+#include "json/member_finder.h"
+#include "json/path/find_object_by_ref.h"
+#include "json/path/key_path.h"
+
+namespace kovalt {
+
+/// What the walks through one document share, so that many of them do not scan the same objects and arrays again and
+/// again.
+struct Lookups {
+  MemberFinder members;
+  ElementFinder elements;
+};
+
+/// Returns the value that `path` names, walked from `root`, or nullptr. A missing member is silent; a selection that
+/// finds nothing prints its own messages on standard error. The result is valid until the document changes. Before the
+/// next walk with the same `lookups`, the caller may change the result, append elements to arrays, and append members
+/// with `lookups.members`, but nothing else.
+Value* resolveExisting(const KeyPath& path, Value& root, Lookups& lookups);
+
+/// As `resolveExisting`, for reads: a missing member is reported on standard error with the whole path, and the caller
+/// must not change the result.
+const Value* resolveForRead(const KeyPath& path, const Value& root, Lookups& lookups);
+
+}  // namespace kovalt

@@ -1,0 +1,14 @@
+#pragma once
+
+// The two places where the tool's own code ends a call early. A failed assertion of RapidJSON and an exception of
+// std::stoi, which nothing catches, abort a call too.
+
+namespace kovalt {
+
+/// Exits with status 1, after the caller has reported why. Nothing more is printed or saved.
+[[noreturn]] void exitWithFailure();
+
+/// Aborts without a report. Nothing more is printed or saved.
+[[noreturn]] void abortProcess();
+
+}  // namespace kovalt

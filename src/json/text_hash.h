@@ -1,0 +1,28 @@
+#pragma once
+
+// Hashes that the author of a file cannot predict.
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace kovalt {
+
+/// Hashes texts by SipHash-1-3 with a secret key, so that nobody can write a file full of names with equal hashes,
+/// which would make every lookup a scan.
+class TextHash {
+ public:
+  /// Takes the key from addresses, which differ from call to call.
+  TextHash();
+
+  /// For tests.
+  TextHash(std::uint64_t key0, std::uint64_t key1) : key0_(key0), key1_(key1) {}
+
+  std::size_t operator()(std::string_view text) const;
+
+ private:
+  std::uint64_t key0_;
+  std::uint64_t key1_;
+};
+
+}  // namespace kovalt
