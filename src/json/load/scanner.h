@@ -22,9 +22,9 @@ namespace kovalt {
 /// so; otherwise the text is not JSON, and the scanner must not be used any more. Texts that are returned are part of
 /// the buffer and valid until the next operation that leaves the cursor ready.
 ///
-/// IMPLEMENTATION. Tokens are recognised in the buffer alone, whose NUL bytes end every run of characters. What might
-/// continue after them is finished byte by byte. No member function that is defined out of line gets the address of the
-/// scanner, so that a loop which owns one keeps the cursor in a register.
+/// IMPLEMENTATION. Tokens are recognised in the buffer alone, whose NUL bytes end every run of characters; a token that
+/// may continue after them is left to RapidJSON's reader. No function that is defined out of line gets the address of
+/// the scanner, so that a loop which owns one can keep the cursor in a register.
 class Scanner {
  public:
   explicit Scanner(InputBuffer& buffer) : buffer_(buffer), next_(buffer.takeCursor()) {}
