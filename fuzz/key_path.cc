@@ -1,18 +1,19 @@
-// A key path gives its text back, both walks come to the place that a walk by plain loops comes to, and a chain built
-// for a path is read back along it. An input is a line with a key path, one with another separator, and a document.
+// The text of a key path is the argument, both walks reach the place that a plain walk reaches, and a chain built for a
+// path is read back along it. An input is a line with a key path, one with another separator, and a document.
 
 #include "json/path/key_path.h"
 
-#include <algorithm>
 #include <string>
 
 #include "fuzz/input.h"
+#include "fuzz/plain_call.h"
 #include "fuzz/property.h"
 #include "fuzz/scratch_folder.h"
 #include "fuzz/target.h"
 #include "json/path/resolve_key_path.h"
 #include "json/path/wrap_in_path.h"
 #include "json/write/write_value.h"
+#include "support/capture.h"
 
 namespace kovalt::fuzz {
 namespace {
@@ -34,70 +35,27 @@ void trySeparator(const std::string& text, const std::string& separator) {
   }
 }
 
-const Value* slowMember(const Value& value, const std::string& name) {
-  if (value.IsObject()) {
-    for (const auto& member : value.GetObject()) {
-      if (textOf(member.name) == name) {
-        return &member.value;
-      }
-    }
-  }
-  return nullptr;
-}
-
-/// Whether a value is a number or string that `wanted` selects by.
-bool slowScalarMatch(const Value& value, const std::string& wanted) {
-  return (value.IsNumber() && valueToText(value, false) == wanted) || (value.IsString() && value.GetString() == wanted);
-}
-
-bool slowMatch(const Value& value, const std::string& wanted) {
-  if (value.IsArray()) {
-    return std::any_of(value.Begin(), value.End(), [&](const Value& item) { return slowScalarMatch(item, wanted); });
-  }
-  return value.IsBool() ? wanted == (value.GetBool() ? "true" : "false") : slowScalarMatch(value, wanted);
-}
-
-const Value* slowSelection(const Value& value, const std::string& name, const std::string& wanted) {
-  if (!value.IsArray()) {
-    return nullptr;
-  }
-  for (const Value& element : value.GetArray()) {
-    if (!element.IsObject()) {
-      return nullptr;
-    }
-    const Value* member = slowMember(element, name);
-    if (member == nullptr) {
-      continue;
-    }
-    if (member->IsNull() || member->IsObject()) {
-      return nullptr;
-    }
-    if (slowMatch(*member, wanted)) {
-      return &element;
-    }
-  }
-  return nullptr;
-}
-
-const Value* slowWalk(const std::vector<std::string>& steps, const Value& root) {
-  const Value* current = &root;
-  for (const std::string& step : steps) {
-    const std::size_t equals = step.find('=');
-    current = equals == std::string::npos ? slowMember(*current, step)
-                                          : slowSelection(*current, step.substr(0, equals), step.substr(equals + 1));
-    if (current == nullptr) {
-      return nullptr;
-    }
-  }
-  return current;
-}
-
+/// Both walks report what the plain walk reports. What they reach is marked, so that the documents differ if it is not
+/// the same place.
 void tryWalks(const KeyPath& path, Document& document) {
-  const Value* expected = slowWalk(path.steps(), document);
+  PlainValue plain = plainValue(document);
+  std::string errors;
+  std::string readErrors;
+  PlainValue* expected = walkPlain(plain, path.text(), false, errors);
+  walkPlain(plain, path.text(), true, readErrors);
   Lookups lookups;
-  expect(resolveForRead(path, document, lookups) == expected, "a walk for a read comes to the place of the slow walk");
-  expect(resolveExisting(path, document, lookups) == expected,
-         "a walk for an edit comes to the place of the slow walk");
+  const Value* read = nullptr;
+  Value* found = nullptr;
+  expect(test::capture([&] { read = resolveForRead(path, document, lookups); }).errors == readErrors,
+         "a walk for a read reports what the plain walk reports");
+  expect(test::capture([&] { found = resolveExisting(path, document, lookups); }).errors == errors,
+         "a walk for an edit reports what the plain walk reports");
+  expect(found == read && (found == nullptr) == (expected == nullptr), "both walks reach what the plain walk reaches");
+  if (found != nullptr) {
+    found->SetString("here");
+    *expected = plainValue(*found);
+    expect(plainValue(document) == plain, "a walk reaches the place that the plain walk reaches");
+  }
 }
 
 void tryChain(const KeyPath& path) {

@@ -14,12 +14,12 @@
 
 #include "app/parse_arguments.h"
 #include "app/run.h"
-#include "fuzz/caught_stream.h"
 #include "fuzz/input.h"
 #include "fuzz/plain_call.h"
 #include "fuzz/property.h"
 #include "fuzz/scratch_folder.h"
 #include "fuzz/target.h"
+#include "support/capture.h"
 
 namespace kovalt::fuzz {
 namespace {
@@ -105,15 +105,7 @@ bool parses(const std::vector<PlainOption>& options, ToolContext& context) {
 void tryCall(const ToolContext& context, const Files& files, const PlainCall& expected) {
   writeScratchFiles(files);
   std::optional<End> end;
-  std::string output;
-  std::string errors;
-  {
-    const CaughtStream caughtOutput(STDOUT_FILENO);
-    const CaughtStream caughtErrors(STDERR_FILENO);
-    end = endOf(context);
-    output = caughtOutput.text();
-    errors = caughtErrors.text();
-  }
+  const auto [output, errors] = test::capture([&] { end = endOf(context); });
   expect(end == expected.end, "many options end the process as the plain call does");
   expect(errors == expected.errors, "many options report what the plain call reports");
   expect(end || output == expected.output, "many options print what the plain call prints");

@@ -53,6 +53,49 @@ std::vector<std::string> stepsOf(const std::string& keyPath) {
   return steps;
 }
 
+bool matches(const PlainValue& item, const std::string& refValue) {
+  return item.type == rapidjson::kStringType ? upToNul(item.text) == quoted(refValue) : item.text == refValue;
+}
+
+PlainValue* select(PlainValue& array, const std::string& refKey, const std::string& refValue, std::string& errors) {
+  bool explained = false;
+  if (array.type == rapidjson::kArrayType) {
+    for (PlainValue& element : array.elements) {
+      const PlainValue* member = plainMember(element, refKey);
+      if (element.type != rapidjson::kObjectType ||
+          (member != nullptr && (member->type == rapidjson::kNullType || member->type == rapidjson::kObjectType))) {
+        explained = true;
+        break;
+      }
+      if (member == nullptr) {
+        continue;
+      }
+      if (member->type != rapidjson::kArrayType) {
+        if (matches(*member, refValue)) {
+          return &element;
+        }
+        continue;
+      }
+      bool badItem = false;
+      for (const PlainValue& item : member->elements) {
+        if (item.type != rapidjson::kNumberType && item.type != rapidjson::kStringType) {
+          badItem = true;
+        } else if (matches(item, refValue)) {
+          return &element;
+        }
+      }
+      explained |= badItem;
+    }
+  }
+  errors += "Kovalt path not found with refKey=refValue \"" + refKey + "=" + refValue + "\"\n";
+  if (explained) {
+    errors +=
+        "Error in path argument, when you use prop1.refKey=refValue.prop2, prop1 must be an array of objects, and "
+        "refKey must be a bool/number/string/array of numbers/strings.\n";
+  }
+  return nullptr;
+}
+
 class Call {
  public:
   Call(const std::vector<PlainOption>& options, PlainValue document, const PlainValue& merged)
@@ -72,68 +115,6 @@ class Call {
   static bool isRemoval(const PlainOption& option) { return option.name == "-rm" || option.name == "-rmc"; }
 
   void report(const std::string& line) { call_.errors += line + "\n"; }
-
-  static bool matches(const PlainValue& item, const std::string& refValue) {
-    return item.type == rapidjson::kStringType ? upToNul(item.text) == quoted(refValue) : item.text == refValue;
-  }
-
-  PlainValue* select(PlainValue& array, const std::string& refKey, const std::string& refValue) {
-    bool explained = false;
-    if (array.type == rapidjson::kArrayType) {
-      for (PlainValue& element : array.elements) {
-        const PlainValue* member = plainMember(element, refKey);
-        if (element.type != rapidjson::kObjectType ||
-            (member != nullptr && (member->type == rapidjson::kNullType || member->type == rapidjson::kObjectType))) {
-          explained = true;
-          break;
-        }
-        if (member == nullptr) {
-          continue;
-        }
-        if (member->type != rapidjson::kArrayType) {
-          if (matches(*member, refValue)) {
-            return &element;
-          }
-          continue;
-        }
-        bool badItem = false;
-        for (const PlainValue& item : member->elements) {
-          if (item.type != rapidjson::kNumberType && item.type != rapidjson::kStringType) {
-            badItem = true;
-          } else if (matches(item, refValue)) {
-            return &element;
-          }
-        }
-        explained |= badItem;
-      }
-    }
-    report("Kovalt path not found with refKey=refValue \"" + refKey + "=" + refValue + "\"");
-    if (explained) {
-      report(
-          "Error in path argument, when you use prop1.refKey=refValue.prop2, prop1 must be an array of objects, and "
-          "refKey must be a bool/number/string/array of numbers/strings.");
-    }
-    return nullptr;
-  }
-
-  PlainValue* walk(const PlainOption& option) {
-    PlainValue* current = &call_.document;
-    for (const std::string& step : stepsOf(option.keyPath)) {
-      const std::size_t equals = step.find('=');
-      if (equals != std::string::npos) {
-        current = select(*current, step.substr(0, equals), step.substr(equals + 1));
-      } else {
-        current = current->type == rapidjson::kObjectType ? plainMember(*current, step) : nullptr;
-        if (current == nullptr && isRead(option)) {
-          report("--read error : Path \"" + option.keyPath + "\" does not exist");
-        }
-      }
-      if (current == nullptr) {
-        break;
-      }
-    }
-    return current;
-  }
 
   /// Returns whether the value was accepted; after a merge, `call_.end` may be set.
   bool apply(const PlainOption& option, PlainValue& target) {
@@ -176,7 +157,7 @@ class Call {
         continue;
       }
       call_.modified = true;
-      PlainValue* target = walk(option);
+      PlainValue* target = walkPlain(call_.document, option.keyPath, false, call_.errors);
       const bool applied = target != nullptr && apply(option, *target);
       if (!applied && !call_.end) {
         PlainValue chain = scalar(rapidjson::kNullType, "null");
@@ -225,7 +206,7 @@ class Call {
         continue;
       }
       ++reads;
-      if (const PlainValue* target = walk(option)) {
+      if (const PlainValue* target = walkPlain(call_.document, option.keyPath, true, call_.errors)) {
         std::string text = plainText(*target, 0);
         if (text.front() == '"') {
           text = text.substr(1, text.size() - 2);
@@ -274,6 +255,25 @@ void writePlain(const PlainValue& value, std::size_t indent, std::size_t depth, 
 }
 
 }  // namespace
+
+PlainValue* walkPlain(PlainValue& root, const std::string& keyPath, bool reportsMissing, std::string& errors) {
+  PlainValue* current = &root;
+  for (const std::string& step : stepsOf(keyPath)) {
+    const std::size_t equals = step.find('=');
+    if (equals != std::string::npos) {
+      current = select(*current, step.substr(0, equals), step.substr(equals + 1), errors);
+    } else {
+      current = current->type == rapidjson::kObjectType ? plainMember(*current, step) : nullptr;
+      if (current == nullptr && reportsMissing) {
+        errors += "--read error : Path \"" + keyPath + "\" does not exist\n";
+      }
+    }
+    if (current == nullptr) {
+      break;
+    }
+  }
+  return current;
+}
 
 PlainCall callPlainly(const std::vector<PlainOption>& options, PlainValue document, const PlainValue& merged) {
   return Call(options, std::move(document), merged).run();

@@ -27,6 +27,10 @@ struct PlainCall {
   std::string errors;
 };
 
+/// The value of `root` that `keyPath` names, or nullptr. Adds to `errors` what the walk reports: a selection that finds
+/// nothing, and with `reportsMissing` a missing member.
+PlainValue* walkPlain(PlainValue& root, const std::string& keyPath, bool reportsMissing, std::string& errors);
+
 /// Does what the additions -as, -an, -ab, -ao and -afat, the removals -rm and -rmc and the reads -r of `options` do to
 /// `document`. The value of -an has to be a number in the form in which it is printed; -afat merges `merged`, whatever
 /// file it names.

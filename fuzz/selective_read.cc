@@ -1,53 +1,24 @@
 // Reads print the same bytes whether the load kept only what they can look at or the whole file. An input is a section
 // with one argument a line, all of them of reads, and the content of the file.
 
-#include <sys/mman.h>
-#include <unistd.h>
-
-#include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "actions/read/print_read_results.h"
 #include "app/parse_arguments.h"
 #include "app/run.h"
-#include "fuzz/caught_stream.h"
 #include "fuzz/input.h"
 #include "fuzz/property.h"
 #include "fuzz/target.h"
 #include "json/load/load_document.h"
+#include "support/capture.h"
+#include "support/memory_file.h"
 
 namespace kovalt::fuzz {
 namespace {
 
-/// The one file of the target, which is in memory.
-class WorkFile {
- public:
-  WorkFile() : descriptor_(memfd_create("file", 0)) { expect(descriptor_ >= 0, "a file can be made in memory"); }
-  WorkFile(const WorkFile&) = delete;
-  WorkFile& operator=(const WorkFile&) = delete;
-  ~WorkFile() { close(descriptor_); }
-
-  [[nodiscard]] std::string path() const { return "/proc/self/fd/" + std::to_string(descriptor_); }
-
-  void write(const std::string& content) const {
-    expect(ftruncate(descriptor_, 0) == 0, "a file can be emptied");
-    expect(pwrite(descriptor_, content.data(), content.size(), 0) == static_cast<ssize_t>(content.size()),
-           "a file can be written");
-  }
-
- private:
-  int descriptor_;
-};
-
-/// What a call prints on both streams.
-std::pair<std::string, std::string> printedBy(const std::function<void()>& call) {
-  const CaughtStream output(STDOUT_FILENO);
-  const CaughtStream errors(STDERR_FILENO);
-  call();
-  return {output.text(), errors.text()};
-}
+using test::capture;
+using test::Printed;
 
 /// Does what a call with these reads does, on the whole file.
 void readWholeFile(const ToolContext& context) {
@@ -59,7 +30,7 @@ void readWholeFile(const ToolContext& context) {
 }
 
 void tryInput(std::string input) {
-  static const WorkFile kFile;
+  static const test::MemoryFile kFile;
   const std::string path = kFile.path();
   const std::vector<std::string> words = linesOf(takeUpTo(kSectionEnd, input));
   std::vector<const char*> arguments = {"Kovalt", "-f", path.c_str()};
@@ -72,8 +43,9 @@ void tryInput(std::string input) {
     return;
   }
   kFile.write(input);
-  const auto selective = printedBy([&] { expect(run(context), "a call that only reads succeeds"); });
-  expect(selective == printedBy([&] { readWholeFile(context); }),
+  const Printed selective = capture([&] { expect(run(context), "a call that only reads succeeds"); });
+  const Printed whole = capture([&] { readWholeFile(context); });
+  expect(selective.output == whole.output && selective.errors == whole.errors,
          "reads of what is kept print what reads of the whole file print");
 }
 

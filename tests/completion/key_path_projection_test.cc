@@ -4,16 +4,16 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 #include <vector>
 
 #include "completion/key_path_candidates.h"
 #include "json/load/load_document.h"
 #include "json/path/key_path.h"
-#include "unit/capture.h"
-#include "unit/json_text.h"
-#include "unit/memory_file.h"
+#include "support/capture.h"
+#include "support/json_text.h"
+#include "support/memory_file.h"
+#include "support/random_json.h"
 
 namespace kovalt::test {
 namespace {
@@ -78,66 +78,17 @@ TEST_F(KeyPathProjection, KeepsOfAMemberThatSelectedWhereItGoesOn) {
   EXPECT_EQ(keyPathCandidates({&document}, word.text, word.use).words(), (std::vector<std::string>{"a=7.a.", "a=7.c"}));
 }
 
-/// Makes documents full of duplicates and wrong kinds, and words that meet them.
-class Generator {
- public:
-  std::string value(int depth) {
-    const std::size_t kind = below(depth > 0 ? 12 : 6);
-    if (kind < 6) {
-      return pick({"null", "true", "7", "-7.5", R"("a")", R"("a.b")", R"("7")", R"("a\u0000b")"});
-    }
-    const bool isArray = kind < 9;
-    std::string text(1, isArray ? '[' : '{');
-    const std::size_t size = below(4);
-    for (std::size_t i = 0; i < size; ++i) {
-      text += (i > 0 ? "," : "") + (isArray ? element(depth - 1) : '"' + name() + "\":" + value(depth - 1));
-    }
-    return text + (isArray ? ']' : '}');
-  }
-
-  /// A root that words get into.
-  std::string document() {
-    const std::string array = '[' + element(4) + ',' + element(4) + ',' + element(3) + ']';
-    return below(4) == 0 ? array : "{\"a\":" + array + ",\"" + name() + "\":" + value(4) + ",\"b\":" + element(4) + '}';
-  }
-
-  std::string word(std::size_t mostSteps) {
-    std::string text = below(4) == 0 ? "" : step();
-    for (std::size_t steps = below(mostSteps); steps > 0; --steps) {
-      text += '.' + step();
-    }
-    return text;
-  }
-
- private:
-  std::size_t below(std::size_t limit) { return random_() % limit; }
-
-  std::string pick(const std::vector<std::string>& texts) { return texts[below(texts.size())]; }
-
-  std::string name() { return pick({"a", "a", "ab", "b", "b", "", "a.b", "a=7", "\\n"}); }
-
-  std::string step() { return pick({"a", "ab", "b", "b", ""}) + (below(3) == 0 ? pick({"=7", "=a", "=", "=t"}) : ""); }
-
-  /// Most elements are objects: words come further there.
-  std::string element(int depth) {
-    if (below(5) == 0) {
-      return value(depth);
-    }
-    const std::string first = '"' + name() + "\":" + value(depth - 1);
-    return '{' + first + ",\"" + name() + "\":" + value(depth - 1) + '}';
-  }
-
-  std::mt19937 random_{1};
-};
+/// A word that is being typed: its last step may be empty or the start of one.
+std::string randomWord(RandomJson& random) { return random.path(3) + random.pick({"", "", ".", "b", "=7"}); }
 
 TEST_F(KeyPathProjection, ChangesNoCandidates) {
-  Generator generator;
+  RandomJson random;
   std::size_t offered = 0;
   capture([&] {
     for (int i = 0; i < 20000; ++i) {
-      const std::string json = generator.document();
-      const std::string text = generator.word(4);
-      const std::string array = generator.word(2);
+      const std::string json = random.document();
+      const std::string text = randomWord(random);
+      const std::string array = random.path(2);
       const Document whole = loadWhole(json);
       for (const Word& word :
            {Word{text}, Word{text, {false, false}}, Word{text, {true, true}}, Word{text, {}, &array}}) {
@@ -155,7 +106,7 @@ TEST_F(KeyPathProjection, ChangesNoCandidates) {
       }
     }
   });
-  EXPECT_GT(offered, 10000U) << "the words meet too little";
+  EXPECT_GT(offered, 10000U) << "few words meet anything";
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
+#include <gtest/gtest.h>
+
 #include "actions/read/read_array_actions.h"
-#include "row.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

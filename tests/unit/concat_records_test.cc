@@ -1,5 +1,7 @@
+#include <gtest/gtest.h>
+
 #include "actions/read/read_object_array_concat_action.h"
-#include "row.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

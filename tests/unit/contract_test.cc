@@ -12,7 +12,7 @@
 #include "json/load/reader_stream.h"
 #include "json/load/scanner.h"
 #include "json/write/output_stream.h"
-#include "row.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "json_text.h"
+#include "support/json_text.h"
 
 namespace kovalt::test {
 namespace {

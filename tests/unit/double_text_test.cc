@@ -12,7 +12,7 @@
 #include <random>
 #include <string>
 
-#include "row.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

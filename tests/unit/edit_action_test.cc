@@ -1,13 +1,15 @@
 #include "actions/edit/edit_action.h"
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <type_traits>
 
 #include "actions/edit/add_file_at_action.h"
 #include "actions/edit/additions.h"
-#include "capture.h"
-#include "json_text.h"
-#include "row.h"
+#include "support/capture.h"
+#include "support/json_text.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

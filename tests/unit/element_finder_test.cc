@@ -1,13 +1,15 @@
 // Many selections in one document, which find what each of them finds alone.
 
+#include <gtest/gtest.h>
+
 #include <random>
 #include <string>
 #include <string_view>
 
-#include "capture.h"
 #include "json/path/find_object_by_ref.h"
 #include "json/path/resolve_key_path.h"
-#include "json_text.h"
+#include "support/capture.h"
+#include "support/json_text.h"
 
 namespace kovalt::test {
 namespace {

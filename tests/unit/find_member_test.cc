@@ -1,8 +1,10 @@
+#include <gtest/gtest.h>
+
 #include <optional>
 
 #include "json/member_finder.h"
-#include "json_text.h"
-#include "row.h"
+#include "support/json_text.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

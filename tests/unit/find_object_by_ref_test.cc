@@ -1,8 +1,10 @@
 #include "json/path/find_object_by_ref.h"
 
-#include "capture.h"
-#include "json_text.h"
-#include "row.h"
+#include <gtest/gtest.h>
+
+#include "support/capture.h"
+#include "support/json_text.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

@@ -1,8 +1,10 @@
 #include "json/path/key_path.h"
 
+#include <gtest/gtest.h>
+
 #include <type_traits>
 
-#include "row.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

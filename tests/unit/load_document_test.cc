@@ -11,8 +11,8 @@
 #include <random>
 #include <string>
 
-#include "capture.h"
 #include "json/document.h"
+#include "support/capture.h"
 
 namespace kovalt::test {
 namespace {

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "json/document.h"
-#include "json_text.h"
+#include "support/json_text.h"
 
 namespace kovalt::test {
 namespace {

@@ -1,13 +1,15 @@
 #include "actions/edit/merge_value.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <tuple>
 #include <utility>
 
-#include "capture.h"
-#include "json_text.h"
-#include "row.h"
+#include "support/capture.h"
+#include "support/json_text.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

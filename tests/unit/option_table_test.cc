@@ -2,16 +2,18 @@
 
 #include "app/option_table.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cctype>
 #include <set>
 #include <utility>
 
 #include "app/parse_arguments.h"
-#include "capture.h"
-#include "json_text.h"
-#include "row.h"
-#include "texts.h"
+#include "support/capture.h"
+#include "support/json_text.h"
+#include "support/row.h"
+#include "support/texts.h"
 
 namespace kovalt::test {
 namespace {

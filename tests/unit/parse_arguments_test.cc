@@ -1,8 +1,10 @@
 #include "app/parse_arguments.h"
 
-#include "capture.h"
-#include "row.h"
-#include "texts.h"
+#include <gtest/gtest.h>
+
+#include "support/capture.h"
+#include "support/row.h"
+#include "support/texts.h"
 
 namespace kovalt::test {
 namespace {

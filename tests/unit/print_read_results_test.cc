@@ -1,10 +1,12 @@
 #include "actions/read/print_read_results.h"
 
+#include <gtest/gtest.h>
+
 #include <type_traits>
 
 #include "actions/read/read_object_array_concat_action.h"
-#include "capture.h"
-#include "json_text.h"
+#include "support/capture.h"
+#include "support/json_text.h"
 
 namespace kovalt::test {
 namespace {

@@ -3,9 +3,9 @@
 #include <array>
 #include <string>
 
-#include "capture.h"
 #include "json/document.h"
 #include "json/write/write_value.h"
+#include "support/capture.h"
 
 namespace kovalt::test {
 namespace {

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "actions/read/read_object_array_concat_action.h"
-#include "capture.h"
 #include "json/load/load_document.h"
-#include "json_text.h"
-#include "memory_file.h"
+#include "support/capture.h"
+#include "support/json_text.h"
+#include "support/memory_file.h"
 
 namespace kovalt::test {
 namespace {

@@ -1,10 +1,12 @@
 #include "actions/edit/remove_action.h"
 
+#include <gtest/gtest.h>
+
 #include <type_traits>
 
-#include "capture.h"
-#include "json_text.h"
-#include "row.h"
+#include "support/capture.h"
+#include "support/json_text.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

@@ -1,10 +1,12 @@
 #include "json/path/resolve_key_path.h"
 
+#include <gtest/gtest.h>
+
 #include <optional>
 
-#include "capture.h"
-#include "json_text.h"
-#include "row.h"
+#include "support/capture.h"
+#include "support/json_text.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

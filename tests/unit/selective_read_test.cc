@@ -3,83 +3,36 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "actions/read/print_read_results.h"
 #include "app/parse_arguments.h"
 #include "app/run.h"
-#include "capture.h"
 #include "json/load/load_document.h"
 #include "json/standard_streams.h"
-#include "memory_file.h"
+#include "support/capture.h"
+#include "support/memory_file.h"
+#include "support/random_json.h"
 
 namespace kovalt::test {
 namespace {
 
-/// Makes documents full of duplicates and wrong kinds, and reads that meet them.
-class Generator {
- public:
-  std::string value(int depth) {
-    const std::size_t kind = below(depth > 0 ? 10 : 6);
-    if (kind < 6) {
-      return pick({"null", "true", "false", "7", "-7.5", "1e30", R"("a")", R"("7")", R"("a\u0000b")",
-                   R"("a text that is longer than one that stands inside of a value")"});
-    }
-    const bool isArray = kind < 8;
-    std::string text(1, isArray ? '[' : '{');
-    const std::size_t size = below(5);
-    for (std::size_t i = 0; i < size; ++i) {
-      text += (i > 0 ? "," : "") + (isArray ? "" : '"' + name() + "\":") + value(depth - 1);
-    }
-    return text + (isArray ? ']' : '}');
-  }
-
-  /// An array of objects, most of the time: reads come further there.
-  std::string document() {
-    if (below(3) == 0) {
-      return value(4);
-    }
-    std::string text = "{\"" + name() + "\":" + value(2) + ",\"a\":[";
-    for (std::size_t i = below(5); i > 0; --i) {
-      text += "{\"" + name() + "\":" + value(2) + ",\"" + name() + "\":" + value(3) + "},";
-    }
-    return text + value(3) + "],\"" + name() + "\":" + value(3) + '}';
-  }
-
-  std::vector<std::string> reads() {
-    std::vector<std::string> words;
-    for (std::size_t count = 1 + below(3); count > 0; --count) {
-      const std::string option = pick({"-r", "-r", "-ras", "-rasq", "-rac", "-racq", "-roac", "-roacs"});
-      words.insert(words.end(), {option, path()});
-      if (option == "-roac" || option == "-roacs") {
-        for (std::size_t fields = 2 + below(2); fields > 0; --fields) {
-          const std::string field = path();
-          words.push_back(field.empty() ? name() + ",," + name() : field);
-        }
+/// One to three reads.
+std::vector<std::string> randomReads(RandomJson& random) {
+  std::vector<std::string> words;
+  for (std::size_t count = 1 + random.below(3); count > 0; --count) {
+    const std::string option = random.pick({"-r", "-r", "-ras", "-rasq", "-rac", "-racq", "-roac", "-roacs"});
+    words.insert(words.end(), {option, random.path(5)});
+    if (option == "-roac" || option == "-roacs") {
+      for (std::size_t fields = 2 + random.below(2); fields > 0; --fields) {
+        const std::string field = random.path(5);
+        words.push_back(field.empty() ? "b,,c" : field);
       }
     }
-    return words;
   }
-
- private:
-  std::size_t below(std::size_t limit) { return random_() % limit; }
-
-  std::string pick(const std::vector<std::string>& texts) { return texts[below(texts.size())]; }
-
-  std::string name() { return pick({"a", "b", "c", ""}); }
-
-  std::string path() {
-    std::string text = below(8) == 0 ? "" : "a";
-    for (std::size_t steps = below(4); steps > 0; --steps) {
-      text += '.' + name() + (below(3) == 0 ? pick({"=7", "=-7.5", "=true", "=a", "="}) : "");
-    }
-    return text;
-  }
-
-  std::mt19937 random_{1};
-};
+  return words;
+}
 
 class SelectiveRead : public testing::Test {
  protected:
@@ -138,11 +91,11 @@ std::string firstDifference(const std::string& left, const std::string& right) {
 }
 
 TEST_F(SelectiveRead, PrintsWhatAReadOfTheWholeFilePrints) {
-  Generator generator;
+  RandomJson random;
   std::vector<Call> calls(8000);
   for (Call& call : calls) {
-    call.document = generator.document();
-    call.words = generator.reads();
+    call.document = random.document();
+    call.words = randomReads(random);
   }
   const Printed selective = performAll(calls, false);
   const Printed whole = performAll(calls, true);

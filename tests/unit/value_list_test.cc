@@ -1,6 +1,8 @@
+#include <gtest/gtest.h>
+
 #include "app/parse_arguments.h"
-#include "row.h"
-#include "texts.h"
+#include "support/row.h"
+#include "support/texts.h"
 
 namespace kovalt::test {
 namespace {

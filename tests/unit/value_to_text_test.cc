@@ -1,6 +1,8 @@
+#include <gtest/gtest.h>
+
 #include "json/write/write_value.h"
-#include "json_text.h"
-#include "row.h"
+#include "support/json_text.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

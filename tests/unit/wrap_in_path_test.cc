@@ -1,10 +1,12 @@
 #include "json/path/wrap_in_path.h"
 
+#include <gtest/gtest.h>
+
 #include <utility>
 
 #include "json/path/resolve_key_path.h"
-#include "json_text.h"
-#include "row.h"
+#include "support/json_text.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {

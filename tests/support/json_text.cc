@@ -1,4 +1,4 @@
-#include "json_text.h"
+#include "support/json_text.h"
 
 #include <gtest/gtest.h>
 #include <rapidjson/stringbuffer.h>
