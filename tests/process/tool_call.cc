@@ -22,11 +22,12 @@ ToolCall& ToolCall::givenSymbolicLink(std::string_view path, std::string_view ta
 ToolCall& ToolCall::call(std::string_view arguments) {
   arguments_.clear();
   while (!arguments.empty()) {
-    const std::size_t end = std::min(arguments.find(' '), arguments.size());
-    if (end > 0) {
-      arguments_.emplace_back(arguments.substr(0, end));
-    }
-    arguments.remove_prefix(std::min(end + 1, arguments.size()));
+    const bool quoted = arguments.front() == '\'';
+    arguments.remove_prefix(quoted ? 1 : 0);
+    const std::size_t end = std::min(arguments.find(quoted ? '\'' : ' '), arguments.size());
+    arguments_.emplace_back(arguments.substr(0, end));
+    // The space after an argument follows its closing quote.
+    arguments.remove_prefix(std::min(end + (quoted ? 2 : 1), arguments.size()));
   }
   return *this;
 }
@@ -58,6 +59,11 @@ ToolCall& ToolCall::withMergedStreams() {
 
 ToolCall& ToolCall::prints(std::string_view bytes) {
   output_ = bytes;
+  return *this;
+}
+
+ToolCall& ToolCall::printsLine(std::string_view line) {
+  output_ = std::string(line) + '\n';
   return *this;
 }
 

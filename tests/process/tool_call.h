@@ -1,7 +1,7 @@
 #pragma once
 
-// One call of the built program, as a row: what it is given and every byte that it must leave. Without GoogleTest, so
-// that long tables compile fast.
+// One call of the built program as a row: its files and arguments, and every byte that it must print and leave. Does
+// not include GoogleTest, so that long tables compile fast.
 
 #include <initializer_list>
 #include <string>
@@ -10,56 +10,62 @@
 
 namespace kovalt::test {
 
-/// What stands under one name of the working folder of a call.
+/// A file, directory or symbolic link in the working directory of a call.
 struct Entry {
   enum class Kind { file, directory, symbolicLink };
 
   std::string path;
   Kind kind = Kind::file;
-  std::string content;  ///< A file's bytes, or the target of a symbolic link.
+  std::string content;  ///< The bytes of a file, or the target of a symbolic link.
   unsigned mode = 0644;
 };
 
-/// A row of a table. What a row does not name is expected to be empty, zero or unchanged: standard output and
-/// standard error are empty, the exit status is 0, every file is as it was before and no other file has appeared.
+/// A row of a table. What a row does not name must be empty, zero or unchanged: standard output and standard error are
+/// empty, the exit status is 0, every file keeps its bytes and its mode, and no file appears.
+///
+/// Expectations are compared byte for byte. One of several lines is a raw literal that looks like the output and begins
+/// right after `R"(`: a display ends with an end of line before `)"`, a saved file with its last brace or bracket.
 class ToolCall {
  public:
-  /// `name` tells the idea of the row, in letters, digits and underscores.
+  /// `name` states the idea of the row in letters, digits and underscores.
   explicit ToolCall(std::string_view name) : name_(name) {}
 
-  /// Puts a file into the fresh working folder of the call.
+  /// Creates a file in the fresh working directory of the call, and the directories on its path.
   ToolCall& given(std::string_view path, std::string_view content, unsigned mode = 0644);
   ToolCall& givenDirectory(std::string_view path, unsigned mode = 0755);
   ToolCall& givenSymbolicLink(std::string_view path, std::string_view target);
 
-  /// The arguments of the call, without the program's own name, as one text that is cut at blanks.
+  /// The arguments, without the program's name, as one text that is cut at spaces. An argument in single quotes may
+  /// hold spaces or be empty: `-as k ''`.
   ToolCall& call(std::string_view arguments);
-  /// The same as a list, for arguments that hold blanks, are empty or are not known as a literal.
+  /// The same as a list, for arguments that hold single quotes or are computed.
   ToolCall& call(std::initializer_list<std::string_view> arguments);
 
-  /// Runs the call as a user without privileges, so that file modes count even where the tests run as root.
+  /// Runs the program as an unprivileged user, so that file modes count even if the tests run as root.
   ToolCall& withoutPrivileges();
   /// Starts the program with its standard output closed.
   ToolCall& withClosedOutput();
   /// Starts the program with its standard output on a full device.
   ToolCall& withFullOutput();
-  /// Sends both streams to one place, as `2>&1` does; `prints` then holds the bytes of both.
+  /// Sends both streams to one place, like `2>&1`; `prints` then expects the bytes of both.
   ToolCall& withMergedStreams();
 
-  /// The exact bytes of standard output.
+  /// The bytes of standard output.
   ToolCall& prints(std::string_view bytes);
-  /// The exact bytes of standard error; with `aborts`, the bytes with which it begins.
+  /// Standard output consists of this line and its end of line.
+  ToolCall& printsLine(std::string_view line);
+  /// The bytes of standard error; if the call aborts, the bytes that it begins with. messages.h has the messages.
   ToolCall& reports(std::string_view bytes);
   /// The exit status.
   ToolCall& exits(int status);
-  /// The call ends by SIGABRT, and after the bytes of `reports` standard error holds `fragment`.
+  /// The call ends with SIGABRT, and standard error holds `fragment` after the bytes of `reports`.
   ToolCall& aborts(std::string_view fragment = "");
-  /// The content of a file after the call, made or changed by it.
+  /// The bytes of a file that the call creates or changes.
   ToolCall& leaves(std::string_view path, std::string_view content);
 
   [[nodiscard]] const std::string& name() const { return name_; }
 
-  /// Runs the call in a fresh folder and compares all that it left, as a GoogleTest test does.
+  /// Runs the call in a fresh directory and compares everything that it printed and left, as a GoogleTest test does.
   void check() const;
 
  private:
@@ -79,7 +85,7 @@ class ToolCall {
   bool unprivileged_ = false;
 };
 
-/// The rows of one topic. A constant of this type makes its rows tests, listed as NAME.ROW.
+/// The rows of one topic. A constant of this type registers its rows as tests, named NAME.ROW.
 class Table {
  public:
   using Rows = std::vector<ToolCall> (*)();
@@ -89,7 +95,7 @@ class Table {
   [[nodiscard]] const char* name() const { return name_; }
   [[nodiscard]] std::vector<ToolCall> rows() const { return makeRows_(); }
 
-  /// All tables of the program.
+  /// All tables of the test program.
   static std::vector<Table>& all();
 
  private:
