@@ -1,12 +1,13 @@
 // The usage text, and the calls that it shows.
 
+#include "messages.h"
 #include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
 
-// The text ends with a line end of its own, and the call writes one more after it.
-constexpr const char* kUsageText = R"(Usage:
+// The text ends with an end of line, and the program writes one more.
+constexpr auto kUsageText = R"(Usage:
 
   Kovalt
 
@@ -68,29 +69,24 @@ Examples:
 
 )";
 
-constexpr const char* kGraph = R"({"links": [{"id": 0, "hostname": "192.168.1.10", "port": 2099},
+constexpr auto kGraph = R"({"links": [{"id": 0, "hostname": "192.168.1.10", "port": 2099},
            {"id": 1, "hostname": "192.168.1.11", "port": 3002}]})";
 
-std::vector<ToolCall> rows() {
+std::vector<ToolCall> usage() {
   return {
       ToolCall("no_argument_prints_the_usage").call({}).prints(kUsageText),
-      ToolCall("the_usage_leaves_every_file_alone").given("conf.json", "{}").call({}).prints(kUsageText),
-      ToolCall("the_usage_on_a_closed_output_is_a_success").withClosedOutput().call({}),
-      ToolCall("the_usage_on_a_full_output_is_a_success").withFullOutput().call({}),
+      ToolCall("usage_on_a_closed_output_is_a_success").withClosedOutput().call({}),
+      ToolCall("usage_on_a_full_output_is_a_success").withFullOutput().call({}),
+      ToolCall("empty_argument_is_invalid").call("''").prints(invalidArgument("")).exits(1),
+      ToolCall("space_is_invalid").call("' '").prints(invalidArgument(" ")).exits(1),
+      ToolCall("no_option_asks_for_help").call("--help").prints(invalidArgument("--help")).exits(1),
+      ToolCall("no_option_asks_for_the_version").call("--version").prints(invalidArgument("--version")).exits(1),
+  };
+}
 
-      // Any argument at all goes to the parser; there is no option that asks for help.
-      ToolCall("an_empty_argument_is_parsed_and_refused").call({""}).prints("Error: invalid argument \n").exits(1),
-      ToolCall("a_blank_argument_is_parsed_and_refused").call({" "}).prints("Error: invalid argument  \n").exits(1),
-      ToolCall("two_empty_arguments_are_refused_at_the_first")
-          .call({"", ""})
-          .prints("Error: invalid argument \n")
-          .exits(1),
-      ToolCall("long_help_is_refused").call("--help").prints("Error: invalid argument --help\n").exits(1),
-      ToolCall("short_help_is_refused").call("-h").prints("Error: invalid argument -h\n").exits(1),
-      ToolCall("version_is_refused").call("--version").prints("Error: invalid argument --version\n").exits(1),
-
-      // The calls that the usage shows.
-      ToolCall("example_add_string").call("--addString object1.object2.stringKey stringValue").prints(R"({
+std::vector<ToolCall> examples() {
+  return {
+      ToolCall("add_string").call("--addString object1.object2.stringKey stringValue").prints(R"({
     "object1": {
         "object2": {
             "stringKey": "stringValue"
@@ -98,7 +94,7 @@ std::vector<ToolCall> rows() {
     }
 }
 )"),
-      ToolCall("example_add_boolean")
+      ToolCall("add_boolean")
           .call("--addBoolean k1 true -ab k2 1 -ab k3 FalSe -ab k4 0 -ab k5 hello")
           .prints(R"({
     "k1": true,
@@ -108,9 +104,12 @@ std::vector<ToolCall> rows() {
     "k5": null
 }
 )")
-          .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, hello rejected.\n"),
-      ToolCall("example_add_number").call("--addNumber key 666").prints("{\n    \"key\": 666\n}\n"),
-      ToolCall("example_add_array").call("--addArray key stringValue1 stringValue2 stringValue3").prints(R"({
+          .reports(rejected("hello")),
+      ToolCall("add_number").call("--addNumber key 666").prints(R"({
+    "key": 666
+}
+)"),
+      ToolCall("add_array").call("--addArray key stringValue1 stringValue2 stringValue3").prints(R"({
     "key": [
         "stringValue1",
         "stringValue2",
@@ -118,77 +117,8 @@ std::vector<ToolCall> rows() {
     ]
 }
 )"),
-      ToolCall("example_add_object").call("--addObject objectKey").prints("{\n    \"objectKey\": {}\n}\n"),
-      ToolCall("example_file")
-          .call("--file outputFile.json --addString key value")
-          .leaves("outputFile.json", "{\n  \"key\": \"value\"\n}"),
-      ToolCall("example_add_file")
-          .given("fileToMerge.json", R"({"a":1})")
-          .call("--addFile fileToMerge.json")
-          .prints("{\n    \"a\": 1\n}\n"),
-      ToolCall("example_add_file_at_an_added_object")
-          .given("fileToMerge.json", R"({"a":1})")
-          .call("--addObject objectKey --addFileAt objectKey fileToMerge.json")
-          .prints(R"({
-    "objectKey": {
-        "a": 1
-    }
-}
-)"),
-      ToolCall("example_add_file_at_a_new_key_gives_the_same")
-          .given("fileToMerge.json", R"({"a":1})")
-          .call("--addFileAt objectKey fileToMerge.json")
-          .prints(R"({
-    "objectKey": {
-        "a": 1
-    }
-}
-)"),
-      ToolCall("example_file_display")
-          .call("--fileDisplay outputFile --addString key value")
-          .prints("{\n    \"key\": \"value\"\n}\n")
-          .leaves("outputFile", "{\n  \"key\": \"value\"\n}"),
-      ToolCall("example_read").call("--read key --addString key value").prints("value\n"),
-      ToolCall("example_read_array").call("--readArray key --addArray key val1 val2").prints("val1 val2\n"),
-      ToolCall("example_read_array_space")
-          .call("--readArraySpace key --addArray key val1 val2")
-          .prints("\"val1\" \"val2\"\n"),
-      ToolCall("example_read_array_comma")
-          .call("--readArrayComma key --addArray key val1 val2")
-          .prints("\"val1\",\"val2\"\n"),
-      ToolCall("example_read_array_comma_no_quote")
-          .call("--readArrayCommaNoQuote key --addArray key val1 val2")
-          .prints("val1,val2\n"),
-      ToolCall("example_remove").call("--remove obj.key --addString obj.key value").prints("{\n    \"obj\": {}\n}\n"),
-      ToolCall("example_remove_and_clear").call("--removeAndClear obj.key --addString obj.key value").prints("{}\n"),
-      ToolCall("example_selection_by_an_array_of_names")
-          .given("conf.json", R"({"processProvisioning": {"pools": [
-              {"names": ["Other"], "maxNumberOfNodesForThisHypervisor": 3},
-              {"names": ["Third", "Dastrel"], "maxNumberOfNodesForThisHypervisor": 8}]}})")
-          .call("--file conf.json --read processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor")
-          .prints("8\n"),
-
-      // Where the usage and the parser disagree, the parser holds and the usage stays as it is.
-      ToolCall("read_array_takes_no_commas_as_racq_does")
-          .call("--readArray key -aa key val1 val2")
-          .prints("val1 val2\n"),
-      ToolCall("ra_takes_no_commas_as_racq_does").call("-ra key -aa key val1 val2").prints("val1 val2\n"),
-      ToolCall("add_array_boolean_adds_no_numbers").call("--addArrayBoolean key 1 0").prints(R"({
-    "key": [
-        true,
-        false
-    ]
-}
-)"),
-      ToolCall("add_object_needs_its_key_path")
-          .call("--addObject")
-          .prints("Error: Error: missing argument(s) after --addObject\n")
-          .exits(1),
-      ToolCall("the_separator_is_the_whole_last_value")
-          .given("graph.json", kGraph)
-          .call("--file graph.json -roacs links id hostname port /:+")
-          .prints("0/192.168.1.10:2099 1/192.168.1.11:3002\n"),
-      ToolCall("the_key_of_example_add_array_boolean_is_the_one_given")
+      // The usage shows another key.
+      ToolCall("add_array_boolean")
           .call("--addArrayBoolean key TRUE 1 FalSe 0 hello")
           .prints(R"({
     "key": [
@@ -200,9 +130,9 @@ std::vector<ToolCall> rows() {
     ]
 }
 )")
-          .reports("Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, [ true 1 false 0 hello ] "
-                   "rejected.\n"),
-      ToolCall("the_numbers_of_example_add_array_number_are_four").call("--addArrayNumber key 0 1 2 3").prints(R"({
+          .reports(rejected("[ true 1 false 0 hello ]")),
+      // The usage shows three numbers.
+      ToolCall("add_array_number").call("--addArrayNumber key 0 1 2 3").prints(R"({
     "key": [
         0,
         1,
@@ -211,34 +141,93 @@ std::vector<ToolCall> rows() {
     ]
 }
 )"),
-      ToolCall("example_read_array_space_no_quote_is_refused")
+      ToolCall("add_object").call("--addObject objectKey").prints(R"({
+    "objectKey": {}
+}
+)"),
+      ToolCall("file").call("--file outputFile.json --addString key value").leaves("outputFile.json", R"({
+  "key": "value"
+})"),
+      ToolCall("add_file").given("fileToMerge.json", R"({"a":1})").call("--addFile fileToMerge.json").prints(R"({
+    "a": 1
+}
+)"),
+      ToolCall("add_file_at_an_added_object")
+          .given("fileToMerge.json", R"({"a":1})")
+          .call("--addObject objectKey --addFileAt objectKey fileToMerge.json")
+          .prints(R"({
+    "objectKey": {
+        "a": 1
+    }
+}
+)"),
+      ToolCall("add_file_at_a_new_key_does_the_same")
+          .given("fileToMerge.json", R"({"a":1})")
+          .call("--addFileAt objectKey fileToMerge.json")
+          .prints(R"({
+    "objectKey": {
+        "a": 1
+    }
+}
+)"),
+      ToolCall("file_display")
+          .call("--fileDisplay outputFile --addString key value")
+          .prints(R"({
+    "key": "value"
+}
+)")
+          .leaves("outputFile", R"({
+  "key": "value"
+})"),
+      ToolCall("read").call("--read key --addString key value").printsLine("value"),
+      ToolCall("read_array").call("--readArray key --addArray key val1 val2").printsLine("val1 val2"),
+      ToolCall("read_array_space").call("--readArraySpace key --addArray key val1 val2").printsLine(R"("val1" "val2")"),
+      // The usage leaves out the key path.
+      ToolCall("read_array_space_no_quote_is_refused")
           .call("--readArraySpaceNoQuote --addArray key val1 val2")
-          .prints("Error: invalid argument key\n")
+          .prints(invalidArgument("key"))
           .exits(1),
-      ToolCall("example_concat_takes_the_file_option_as_its_key_path")
+      ToolCall("read_array_comma").call("--readArrayComma key --addArray key val1 val2").printsLine(R"("val1","val2")"),
+      ToolCall("read_array_comma_no_quote")
+          .call("--readArrayCommaNoQuote key --addArray key val1 val2")
+          .printsLine("val1,val2"),
+      ToolCall("remove").call("--remove obj.key --addString obj.key value").prints(R"({
+    "obj": {}
+}
+)"),
+      ToolCall("remove_and_clear").call("--removeAndClear obj.key --addString obj.key value").printsLine("{}"),
+      ToolCall("selection")
+          .given("conf.json", R"({"processProvisioning": {"pools": [
+              {"names": ["Other"], "maxNumberOfNodesForThisHypervisor": 3},
+              {"names": ["Third", "Dastrel"], "maxNumberOfNodesForThisHypervisor": 8}]}})")
+          .call("--file conf.json --read processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor")
+          .printsLine("8"),
+      // The usage puts -f where the key path belongs, and the words after it are fields.
+      ToolCall("concatenation_reads_the_key_path_f")
           .given("hyperGraph.json", kGraph)
           .call("--readObjectArrayConcat -f hyperGraph.json links id hostname port")
-          .reports("--read error : Path \"-f\" does not exist\n"),
-      ToolCall("example_concat_takes_the_file_name_as_a_field_path")
+          .reports(readError("-f")),
+      ToolCall("concatenation_reads_the_file_name_as_a_field")
           .given("graph.json", R"({"-f": [{"hyperGraph": {"json": "h"}, "links": "l"}]})")
           .call("--addFile graph.json --readObjectArrayConcat -f hyperGraph.json links")
-          .prints("h l\n"),
-      ToolCall("example_concat_with_the_file_first")
+          .printsLine("h l"),
+      ToolCall("concatenation_with_the_file_first")
           .given("hyperGraph.json", kGraph)
           .call("-f hyperGraph.json --readObjectArrayConcat links id hostname port")
-          .prints("0 192.168.1.10 2099 1 192.168.1.11 3002\n"),
-      ToolCall("example_concat_sep_takes_the_file_option_as_its_key_path")
+          .printsLine("0 192.168.1.10 2099 1 192.168.1.11 3002"),
+      ToolCall("separated_concatenation_reads_the_key_path_f")
           .given("hypervisorGraph.json", kGraph)
           .call("-roacs -f hypervisorGraph.json links id hostname port /:")
-          .reports("--read error : Path \"-f\" does not exist\n"),
-      ToolCall("example_concat_sep_with_the_file_first")
+          .reports(readError("-f")),
+      ToolCall("separated_concatenation_with_the_file_first")
           .given("hypervisorGraph.json", kGraph)
           .call("-f hypervisorGraph.json -roacs links id hostname port /:")
-          .prints("0/192.168.1.10:2099 1/192.168.1.11:3002\n"),
+          .printsLine("0/192.168.1.10:2099 1/192.168.1.11:3002"),
   };
 }
 
-const Table kUsage("Usage", rows);
+const Table kUsage("Usage", usage);
+const Table kUsageExamples("UsageExamples", examples);
 
 }  // namespace
 }  // namespace kovalt::test
