@@ -1,272 +1,121 @@
-// When the document is displayed and saved, and what a closed or full output does to that.
+// When the document is displayed and when it is saved, and how a closed or full output affects that.
 
+#include "messages.h"
 #include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
 
-constexpr const char* kBefore = R"({"a":1})";
+/// A call on a file that is not saved: it keeps the space after its value.
+ToolCall kept(const std::string& name, const std::string& options, const std::string& output) {
+  return ToolCall(name).given("f.json", "7 ").call(options).prints(output);
+}
 
-constexpr const char* kAfter = R"({
-  "a": 1,
-  "k": "v"
-})";
+/// A call on a file that is saved with `content`.
+ToolCall saved(const std::string& name, const std::string& options, const std::string& output,
+               const std::string& content) {
+  return ToolCall(name).given("f.json", "7 ").call(options).prints(output).leaves("f.json", content);
+}
 
-std::vector<ToolCall> displayAndSave() {
+std::vector<ToolCall> decisions() {
   return {
-      // Without a file.
-      ToolCall("no_file_and_an_edit").call("--addString k v").prints("{\n    \"k\": \"v\"\n}\n"),
-      ToolCall("no_file_and_a_removal").call("--remove k").prints("{}\n"),
-      ToolCall("no_file_and_a_removal_of_nothing").call({"--remove", ""}).prints("{}\n"),
-      ToolCall("no_file_and_a_read").call("--read k").reports("--read error : Path \"k\" does not exist\n"),
-      ToolCall("no_file_and_a_read_of_the_root").call({"--read", ""}).prints("{}\n"),
-      ToolCall("no_file_and_an_edit_and_a_read").call("-as k v -as l w --read k").prints("v\n"),
-      ToolCall("no_file_and_a_removal_and_a_read")
-          .call("-rm k -r k")
-          .reports("--read error : Path \"k\" does not exist\n"),
-      ToolCall("no_file_and_two_reads").call("-as k v -an l 1 -r k -r l").prints(R"({
-    "k": "v",
-    "l": "1"
-}
-)"),
+      // Without a file the document is displayed, unless there is a read.
+      ToolCall("edit").call("-an '' 8").printsLine("8"),
+      ToolCall("removal").call("-rm ''").printsLine("{}"),
+      ToolCall("removal_and_a_failing_read").call("-rm k -r k").reports(readError("k")),
+      ToolCall("edit_and_a_read").call("-as k v -as l w -r k").printsLine("v"),
 
-      // With a file that is only looked at: it stays byte for byte.
-      ToolCall("file_alone")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call("--file conf.json")
-          .prints("{\n    \"a\": 1\n}\n"),
-      ToolCall("file_display_alone")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call("--fileDisplay conf.json")
-          .prints("{\n    \"a\": 1\n}\n"),
-      ToolCall("file_and_a_read").given("conf.json", "{\"a\" : 1}\n").call("--file conf.json -r a").prints("1\n"),
-      ToolCall("file_and_a_failing_read")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call("--file conf.json -r b")
-          .reports("--read error : Path \"b\" does not exist\n"),
-      ToolCall("file_and_two_reads")
-          .given("conf.json", R"({"a":1})")
-          .call({"-f", "conf.json", "-r", "a", "-r", ""})
-          .prints(R"({
-    "a": "1",
-    "": "{\"a\":1}"
-}
-)"),
-      ToolCall("file_display_and_a_read")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call("--fileDisplay conf.json --read a")
-          .prints("{\n    \"a\": 1\n}\n1\n"),
-      ToolCall("file_display_and_two_reads")
-          .given("conf.json", R"({"a":1,"b":[]})")
-          .call("-r a -fd conf.json -r b")
-          .prints(R"({
-    "a": 1,
-    "b": []
-}
-{
-    "a": "1",
-    "b": "[]"
-}
-)"),
-      ToolCall("file_that_holds_an_array").given("conf.json", "[1,{}]").call("-f conf.json").prints(R"([
-    1,
-    {}
-]
-)"),
-      ToolCall("file_that_holds_an_empty_array").given("conf.json", "[]").call("-f conf.json").prints("[]\n"),
-      ToolCall("file_that_holds_a_string").given("conf.json", R"("text")").call("-f conf.json").prints("\"text\"\n"),
-      ToolCall("file_that_holds_null").given("conf.json", "null").call("-f conf.json").prints("null\n"),
+      // An unchanged file is displayed, unless there is a read. --fileDisplay always displays it.
+      kept("file", "-f f.json", "7\n"),
+      kept("file_display", "-fd f.json", "7\n"),
+      kept("file_and_a_read", "-f f.json -r ''", "7\n"),
+      kept("file_and_a_failing_read", "-f f.json -r a", "").reports(readError("a")),
+      kept("file_and_two_failing_reads", "-f f.json -r a -r a", "{}\n").reports(readError("a") + readError("a")),
+      kept("file_display_and_a_read", "-r '' -fd f.json", "7\n7\n"),
+      kept("file_display_and_a_failing_read", "-fd f.json -r a", "7\n").reports(readError("a")),
 
-      // With a file that is changed: it is saved, and shown only on demand.
-      ToolCall("file_and_an_edit")
-          .given("conf.json", R"({"a":1})")
-          .call("--file conf.json -an b 2")
-          .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      ToolCall("file_and_an_edit_and_a_read")
-          .given("conf.json", R"({"a":1})")
-          .call("--file conf.json -an b 2 -r b")
-          .prints("2\n")
-          .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      ToolCall("file_and_an_edit_and_a_failing_read")
-          .given("conf.json", R"({"a":1})")
-          .call("--file conf.json -an b 2 -r c")
-          .reports("--read error : Path \"c\" does not exist\n")
-          .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      ToolCall("file_display_and_an_edit")
-          .given("conf.json", R"({"a":1})")
-          .call("--fileDisplay conf.json -an b 2")
-          .prints("{\n    \"a\": 1,\n    \"b\": 2\n}\n")
-          .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      ToolCall("file_display_and_an_edit_and_a_read")
-          .given("conf.json", R"({"a":1})")
-          .call("--fileDisplay conf.json -an b 2 -r b")
-          .prints("{\n    \"a\": 1,\n    \"b\": 2\n}\n2\n")
-          .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
-      ToolCall("file_and_a_removal")
-          .given("conf.json", R"({"a":1,"b":2})")
-          .call("--file conf.json -rm b")
-          .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      ToolCall("file_and_a_removal_and_a_read")
-          .given("conf.json", R"({"a":1,"b":2})")
-          .call("--file conf.json -rm b -r a")
-          .prints("1\n")
-          .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      ToolCall("file_and_a_removal_of_the_last_member")
-          .given("conf.json", R"({"a":1})")
-          .call("--file conf.json -rm a")
-          .leaves("conf.json", "{}"),
+      // A changed file is saved, and displayed only by --fileDisplay.
+      saved("file_and_an_edit", "-f f.json -an '' 8", "", "8"),
+      saved("file_and_an_edit_and_a_read", "-f f.json -an '' 8 -r ''", "8\n", "8"),
+      saved("file_and_an_edit_and_a_failing_read", "-f f.json -an '' 8 -r a", "", "8").reports(readError("a")),
+      saved("file_display_and_an_edit", "-fd f.json -an '' 8", "8\n", "8"),
+      saved("file_display_and_an_edit_and_a_read", "-fd f.json -an '' 8 -r ''", "8\n8\n", "8"),
 
-      // Any edit counts as a change, even one without effect.
-      ToolCall("edit_to_the_same_value_rewrites_the_file")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call("-f conf.json -an a 1")
-          .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      ToolCall("merge_of_a_missing_file_rewrites_the_file")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call("-f conf.json -af missing.json")
-          .reports("Could not open document: missing.json\n")
-          .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      ToolCall("merge_of_a_broken_file_rewrites_the_file")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .given("more.json", R"({"b":2,)")
-          .call("-f conf.json -af more.json")
-          .reports("Could not parse json file more.json\n")
-          .leaves("conf.json", "{\n  \"a\": 1\n}"),
-      ToolCall("rejected_boolean_for_a_null_rewrites_the_file")
-          .given("conf.json", "{\"a\" : null}\n")
-          .call("-f conf.json -ab a maybe")
-          .reports(R"(Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, maybe rejected.
-Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, maybe rejected.
-)")
-          .leaves("conf.json", "{\n  \"a\": null\n}"),
-      ToolCall("failed_removal_beside_an_edit_saves")
-          .given("conf.json", R"({"a":1})")
-          .call("-f conf.json -rm missing -an b 2")
-          .leaves("conf.json", "{\n  \"a\": 1,\n  \"b\": 2\n}"),
+      // Every edit is a change, even without effect. ChangesByRemoval shows which removals are changes.
+      saved("edit_to_the_same_value", "-f f.json -an '' 7", "", "7"),
+      saved("edit_and_a_failed_removal", "-f f.json -ao '' -rm k", "", "{}"),
+      saved("merge_of_a_missing_file", "-f f.json -af missing.json", "", "{}").reports(cannotOpen("missing.json")),
+      ToolCall("rejected_boolean_for_null")
+          .given("f.json", R"({"a" : null})")
+          .call("-f f.json -ab a maybe")
+          .reports(rejected("maybe") + rejected("maybe"))
+          .leaves("f.json", R"({
+  "a": null
+})"),
 
-      // Removals count as a change only when every one of them succeeds.
-      ToolCall("failed_removal_shows_and_saves_nothing")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call("--file conf.json --remove missing")
-          .prints("{\n    \"a\": 1\n}\n"),
-      ToolCall("failed_removal_is_displayed_once")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call("--fileDisplay conf.json --remove missing")
-          .prints("{\n    \"a\": 1\n}\n"),
-      ToolCall("failed_removal_behind_a_good_one_keeps_the_file")
-          .given("conf.json", R"({"a":1,"b":2})")
-          .call("-f conf.json -rm b -rm missing")
-          .prints("{\n    \"a\": 1\n}\n"),
-      ToolCall("failed_removal_before_a_good_one_keeps_the_file")
-          .given("conf.json", R"({"a":1,"b":2})")
-          .call("-f conf.json -rm missing -rm b")
-          .prints("{\n    \"a\": 1\n}\n"),
-      ToolCall("second_removal_of_the_same_key_keeps_the_file")
-          .given("conf.json", R"({"a":1,"b":2})")
-          .call("-f conf.json -rm b -rm b")
-          .prints("{\n    \"a\": 1\n}\n"),
-      ToolCall("failed_removal_and_a_read_show_the_read_alone")
-          .given("conf.json", R"({"a":1,"b":2})")
-          .call({"-f", "conf.json", "-rm", "b", "-rm", "missing", "-r", ""})
-          .prints("{\"a\":1}\n"),
-      ToolCall("removal_of_a_missing_nested_key_rewrites_the_file")
-          .given("conf.json", "{\"a\" : {}}\n")
-          .call("-f conf.json -rm a.missing")
-          .leaves("conf.json", "{\n  \"a\": {}\n}"),
-      ToolCall("removal_with_an_empty_key_path_rewrites_the_file")
-          .given("conf.json", "{\"a\" : 1}\n")
-          .call({"-f", "conf.json", "-rm", ""})
-          .leaves("conf.json", "{\n  \"a\": 1\n}"),
-
-      // A file that does not exist yet.
-      ToolCall("missing_file_and_an_edit")
-          .call("--file conf.json --addString k v")
-          .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
-      ToolCall("missing_file_for_display_and_an_edit")
-          .call("--fileDisplay conf.json --addString k v")
-          .prints("{\n    \"k\": \"v\"\n}\n")
-          .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
-      ToolCall("missing_file_alone_is_not_made").call("--file conf.json").prints("{}\n"),
-      ToolCall("missing_file_for_display_is_not_made").call("--fileDisplay conf.json").prints("{}\n"),
-      ToolCall("missing_file_and_a_read")
-          .call("--file conf.json -r k")
-          .reports("--read error : Path \"k\" does not exist\n"),
-      ToolCall("missing_file_and_a_failed_removal_is_not_made").call("-f conf.json -rm k").prints("{}\n"),
-      ToolCall("missing_file_and_a_nested_removal_is_made").call("-f conf.json -rm a.k").leaves("conf.json", "{}"),
-      ToolCall("missing_file_and_a_merge_of_a_missing_file_is_made")
-          .call("-f conf.json -af missing.json")
-          .reports("Could not open document: missing.json\n")
-          .leaves("conf.json", "{}"),
+      // A missing file is created by a change.
+      ToolCall("missing_file").call("-f f.json").printsLine("{}"),
+      ToolCall("missing_file_of_file_display").call("-fd f.json").printsLine("{}"),
+      ToolCall("missing_file_and_a_read").call("-f f.json -r k").reports(readError("k")),
+      ToolCall("missing_file_and_a_failed_removal").call("-f f.json -rm k").printsLine("{}"),
+      ToolCall("missing_file_and_an_edit").call("-f f.json -an '' 8").leaves("f.json", "8"),
+      ToolCall("missing_file_and_an_edit_with_file_display")
+          .call("-fd f.json -an '' 8")
+          .printsLine("8")
+          .leaves("f.json", "8"),
+      ToolCall("missing_file_and_a_nested_removal").call("-f f.json -rm a.k").leaves("f.json", "{}"),
+      ToolCall("missing_file_and_a_merge_of_a_missing_file")
+          .call("-f f.json -af missing.json")
+          .reports(cannotOpen("missing.json"))
+          .leaves("f.json", "{}"),
   };
 }
 
-/// The calls whose output goes nowhere, without the place itself.
-std::vector<ToolCall> calls() {
+/// Calls whose output is lost, which changes nothing else.
+std::vector<ToolCall> lostOutput() {
+  const std::string text(100000, 'x');
   return {
       ToolCall("display").call("-as k v"),
-      ToolCall("display_of_a_file").given("conf.json", kBefore).call("-f conf.json"),
-      ToolCall("display_and_save")
-          .given("conf.json", kBefore)
-          .call("-fd conf.json -as k v")
-          .leaves("conf.json", kAfter),
+      ToolCall("display_of_a_file").given("f.json", "7 ").call("-f f.json"),
       ToolCall("display_and_save_and_read")
-          .given("conf.json", kBefore)
-          .call("-fd conf.json -as k v -r k")
-          .leaves("conf.json", kAfter),
-      ToolCall("display_and_save_of_a_new_file")
-          .call("-fd conf.json -as k v")
-          .leaves("conf.json", "{\n  \"k\": \"v\"\n}"),
-      ToolCall("display_and_save_and_merge")
-          .given("conf.json", kBefore)
-          .given("more.json", R"({"k":"v"})")
-          .call("-fd conf.json -af more.json")
-          .leaves("conf.json", kAfter),
-      ToolCall("save_alone").given("conf.json", kBefore).call("-f conf.json -as k v").leaves("conf.json", kAfter),
-      ToolCall("save_and_read")
-          .given("conf.json", kBefore)
-          .call("-f conf.json -as k v -r k")
-          .leaves("conf.json", kAfter),
-      ToolCall("read").given("conf.json", kBefore).call("-f conf.json -r a"),
-      ToolCall("two_reads").given("conf.json", kBefore).call("-f conf.json -r a -r a"),
-      ToolCall("failing_read")
-          .given("conf.json", kBefore)
-          .call("-f conf.json -r k")
-          .reports("--read error : Path \"k\" does not exist\n"),
-      ToolCall("long_display").call({"-as", "k", std::string(100000, 'x')}),
-      ToolCall("long_display_and_save")
-          .call({"-fd", "conf.json", "-as", "k", std::string(100000, 'x')})
-          .leaves("conf.json", "{\n  \"k\": \"" + std::string(100000, 'x') + "\"\n}"),
-      ToolCall("broken_file")
-          .given("conf.json", "{")
-          .call("-fd conf.json")
-          .reports("Could not parse json file conf.json\n"),
-      ToolCall("failed_save")
-          .call("-fd no/such/conf.json -as k v")
-          .reports("Could not write document: no/such/conf.json\n")
-          .exits(1),
-      ToolCall("parse_error").given("conf.json", kBefore).call("-f conf.json -as k v oops").exits(1),
+          .given("f.json", "7 ")
+          .call("-fd f.json -an '' 8 -r ''")
+          .leaves("f.json", "8"),
+      ToolCall("display_and_save_of_a_new_file").call("-fd f.json -an '' 8").leaves("f.json", "8"),
+      ToolCall("display_and_save_after_a_merge")
+          .given("f.json", "7 ")
+          .given("more.json", "{ }")
+          .call("-fd f.json -af more.json")
+          .leaves("f.json", "{}"),
+      ToolCall("save_and_read").given("f.json", "7 ").call("-f f.json -an '' 8 -r ''").leaves("f.json", "8"),
+      ToolCall("two_reads").given("f.json", "7 ").call("-f f.json -r '' -r ''"),
+      ToolCall("failing_read").given("f.json", "7 ").call("-f f.json -r k").reports(readError("k")),
+      ToolCall("long_display_and_save").call("-fd f.json -as '' " + text).leaves("f.json", '"' + text + '"'),
+      ToolCall("file_that_cannot_be_parsed").given("f.json", "{").call("-fd f.json").reports(cannotParse("f.json")),
+      ToolCall("failed_save").call("-fd no/such/f.json -as k v").reports(cannotWrite("no/such/f.json")).exits(1),
+      ToolCall("invalid_argument").given("f.json", "7 ").call("-f f.json -as k v oops").exits(1),
   };
 }
 
-std::vector<ToolCall> closedRows() {
-  std::vector<ToolCall> rows = calls();
+std::vector<ToolCall> closedOutput() {
+  std::vector<ToolCall> rows = lostOutput();
   for (ToolCall& row : rows) {
     row.withClosedOutput();
   }
   return rows;
 }
 
-std::vector<ToolCall> fullRows() {
-  std::vector<ToolCall> rows = calls();
+std::vector<ToolCall> fullOutput() {
+  std::vector<ToolCall> rows = lostOutput();
   for (ToolCall& row : rows) {
     row.withFullOutput();
   }
   return rows;
 }
 
-const Table kRunDisplayAndSave("RunDisplayAndSave", displayAndSave);
-const Table kClosedOutput("ClosedOutput", closedRows);
-const Table kFullOutput("FullOutput", fullRows);
+const Table kDisplayAndSave("DisplayAndSave", decisions);
+const Table kClosedOutput("ClosedOutput", closedOutput);
+const Table kFullOutput("FullOutput", fullOutput);
 
 }  // namespace
 }  // namespace kovalt::test
