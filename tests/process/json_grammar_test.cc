@@ -1,20 +1,22 @@
-// Which texts are taken as JSON and which are refused, as docs/json-grammar.md lists them.
+// Which texts are accepted as JSON and which are refused, as docs/json-grammar.md lists them.
 
 #include <gtest/gtest.h>
 
 #include <cctype>
 #include <sstream>
 #include <string>
+#include <string_view>
 
+#include "document_rows.h"
 #include "example_file.h"
-#include "tool_call.h"
+#include "messages.h"
 
 namespace kovalt::test {
 namespace {
 
 int hexDigit(char digit) { return digit <= '9' ? digit - '0' : digit - 'A' + 10; }
 
-/// The bytes that the page shows as `text`: those in angle brackets are written as hexadecimal digits.
+/// The bytes that the page shows as `text`: hexadecimal digits in angle brackets are bytes.
 std::string bytesOf(const std::string& text) {
   std::string bytes;
   bool hexadecimal = false;
@@ -31,25 +33,21 @@ std::string bytesOf(const std::string& text) {
   return bytes;
 }
 
-/// What stands in a column of a table between backquotes, or nothing.
+/// The text between backquotes in a column of a table, or nothing.
 std::string quotedPart(const std::string& column) {
   const std::size_t start = column.find('`') + 1;
   return start == 0 ? "" : column.substr(start, column.find('`', start) - start);
 }
 
 ToolCall refusal(const std::string& name, const std::string& input) {
-  return ToolCall(name)
-      .given("in.json", input)
-      .call({"-f", "in.json", "-r", ""})
-      .prints("{}\n")
-      .reports("Could not parse json file in.json\n");
+  return reading(name, input, "").printsLine("{}").reports(cannotParse("f.json"));
 }
 
 ToolCall acceptance(const std::string& name, const std::string& input, const std::string& text) {
-  return ToolCall(name).given("in.json", input).call({"-f", "in.json", "-r", ""}).prints(text + "\n");
+  return reading(name, input, "").printsLine(text);
 }
 
-/// The rows of the page that lists the decisions, named by its headings.
+/// The rows of the page, named by its headings. A table without rows is an error.
 std::vector<ToolCall> pageRows() {
   std::vector<ToolCall> rows;
   std::istringstream page(projectFile("docs/json-grammar.md"));
@@ -74,8 +72,6 @@ std::vector<ToolCall> pageRows() {
 
 const Table kJsonGrammar("JsonGrammar", pageRows);
 
-TEST(JsonGrammarPage, HoldsRows) { EXPECT_GE(pageRows().size(), 382U); }
-
 TEST(JsonGrammarLoops, RefusesDocumentsCutShortAtEveryByte) {
   for (const std::string document : {
            R"({"a":[1,-2.5e+3,true,false,null,"x\"\u00e9\ud834\udd1e"],"b":{"":{}}})",
@@ -91,7 +87,7 @@ TEST(JsonGrammarLoops, RefusesDocumentsCutShortAtEveryByte) {
   }
 }
 
-TEST(JsonGrammarLoops, TakesDeepNesting) {
+TEST(JsonGrammarLoops, AcceptsDeepNesting) {
   const std::string arrays = std::string(1000, '[') + std::string(1000, ']');
   acceptance("arrays", arrays, arrays).check();
   refusal("one_bracket_short", arrays.substr(1)).check();
@@ -104,8 +100,38 @@ TEST(JsonGrammarLoops, TakesDeepNesting) {
   refusal("one_brace_short", objects.substr(0, objects.size() - 1)).check();
 }
 
-TEST(JsonGrammarLoops, DecidesTheSameAcrossTheBordersOfTheReadBuffer) {
-  // Tokens and what follows them are moved over the end of the buffer byte by byte.
+/// A control character as an escape with hexadecimal digits.
+std::string hexEscape(int code) {
+  constexpr auto kDigits = "0123456789ABCDEF";
+  return {'\\', 'u', '0', '0', kDigits[code / 16], kDigits[code % 16]};
+}
+
+/// A control character as the program writes it.
+std::string escape(int code) {
+  const std::size_t shortForm = std::string_view("\b\t\n\f\r").find(static_cast<char>(code));
+  return shortForm == std::string_view::npos ? hexEscape(code) : std::string({'\\', "btnfr"[shortForm]});
+}
+
+/// A long text around `middle`.
+std::string around(const std::string& middle) { return std::string(40, 'x') + middle + std::string(40, 'y'); }
+
+std::string quoted(const std::string& text) { return '"' + text + '"'; }
+
+// Some builds of RapidJSON scan long strings with vector instructions, which miss some control characters.
+TEST(JsonGrammarLoops, RefusesControlCharactersInLongStringsAndWritesTheirEscapes) {
+  for (int code = 1; code < ' '; ++code) {
+    SCOPED_TRACE(code);
+    const std::string raw = around(std::string(1, static_cast<char>(code)));
+    const std::string escaped = around(escape(code));
+    refusal("raw", quoted(raw)).check();
+    acceptance("escaped", quoted(around(hexEscape(code))), escaped).check();
+    ToolCall("displayed").call({"-as", "", raw}).printsLine(quoted(escaped)).check();
+    ToolCall("saved").call({"-f", "f.json", "-as", "", raw}).leaves("f.json", quoted(escaped)).check();
+  }
+}
+
+TEST(JsonGrammarLoops, DecidesTheSameWhereverTheInputBufferEnds) {
+  // Each byte of a document once follows the end of the buffer.
   for (const std::size_t spaces : {4088U, 8188U}) {
     for (std::size_t more = 0; more < 12; ++more) {
       const std::string white(spaces + more, ' ');
@@ -114,6 +140,7 @@ TEST(JsonGrammarLoops, DecidesTheSameAcrossTheBordersOfTheReadBuffer) {
       acceptance("end", "{}" + white, "{}").check();
       refusal("nul", "{}" + white + std::string(1, '\0')).check();
       refusal("trailing", "{}" + white + "x").check();
+      refusal("nothing", white).check();
     }
   }
 }
