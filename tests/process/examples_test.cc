@@ -1,16 +1,27 @@
 // Calls on copies of the example files.
 
 #include "example_file.h"
+#include "messages.h"
 #include "tool_call.h"
 
 namespace kovalt::test {
 namespace {
 
-/// The bytes that a save of the unchanged example leaves: files are saved without a line end at their end.
-std::string savedExample(const std::string& name) {
+/// A call on a copy of the example file `name`.
+ToolCall example(const std::string& row, const std::string& name, const std::string& options) {
+  return ToolCall(row).given(name, exampleFile(name)).call("-f " + name + " " + options);
+}
+
+/// The example file `name` as the program saves it, which is without its last end of line.
+std::string saved(const std::string& name) {
   std::string content = exampleFile(name);
   content.pop_back();
   return content;
+}
+
+/// `text` with the first `before` replaced by `after`.
+std::string replaced(std::string text, const std::string& before, const std::string& after) {
+  return text.replace(text.find(before), before.size(), after);
 }
 
 constexpr auto kServiceAtNorth = R"({
@@ -77,116 +88,47 @@ constexpr auto kServiceAtNorth = R"({
   }
 })";
 
-constexpr auto kLargerPool = R"({
-  "processProvisioning": {
-    "enabled": true,
-    "strategy": "spread",
-    "pools": [
-      {
-        "names": [
-          "Orvane",
-          "Dastrel"
-        ],
-        "maxNumberOfNodesForThisHypervisor": 16,
-        "reserved": false,
-        "hypervisors": [
-          "hv-01.internal",
-          "hv-02.internal"
-        ]
-      },
-      {
-        "names": [
-          "Velmoor"
-        ],
-        "maxNumberOfNodesForThisHypervisor": 4,
-        "reserved": true,
-        "hypervisors": [
-          "hv-07.internal"
-        ]
-      }
-    ]
-  }
-})";
-
 std::vector<ToolCall> rows() {
   return {
-      ToolCall("the_port_of_the_service")
-          .given("service.json", exampleFile("service.json"))
-          .call("--file service.json --read network.webSocketPort")
-          .prints("8765\n"),
-      ToolCall("the_large_number_of_the_service_is_exact")
-          .given("service.json", exampleFile("service.json"))
-          .call("-f service.json -r instanceId -r logging.sampling -r production")
-          .prints("{\n    \"instanceId\": \"9007199254740993\",\n    \"logging.sampling\": \"0.25\",\n"
-                  "    \"production\": \"true\"\n}\n"),
-      ToolCall("the_protocols_of_the_service_on_one_line")
-          .given("service.json", exampleFile("service.json"))
-          .call("-f service.json --readArray network.tls.protocols")
-          .prints("TLSv1.2 TLSv1.3\n"),
-      ToolCall("the_roles_of_one_user")
-          .given("service.json", exampleFile("service.json"))
-          .call("-f service.json -racq users.name=admin.roles")
-          .prints("read,write\n"),
-      ToolCall("a_missing_section_of_the_service")
-          .given("service.json", exampleFile("service.json"))
-          .call("-f service.json -r network.proxy.port")
-          .reports("--read error : Path \"network.proxy.port\" does not exist\n"),
-      ToolCall("a_site_merged_over_the_service")
-          .given("service.json", exampleFile("service.json"))
+      example("port_of_the_service", "service.json", "-r network.webSocketPort").printsLine("8765"),
+      example("numbers_of_the_service", "service.json", "-r instanceId -r logging.sampling -r production").prints(R"({
+    "instanceId": "9007199254740993",
+    "logging.sampling": "0.25",
+    "production": "true"
+}
+)"),
+      example("protocols_of_the_service", "service.json", "-ra network.tls.protocols").printsLine("TLSv1.2 TLSv1.3"),
+      example("roles_of_one_user", "service.json", "-racq users.name=admin.roles").printsLine("read,write"),
+      example("missing_section_of_the_service", "service.json", "-r network.proxy.port")
+          .reports(readError("network.proxy.port")),
+      example("service_merged_with_a_site", "service.json", "--addFile site-overrides.json")
           .given("site-overrides.json", exampleFile("site-overrides.json"))
-          .call("--file service.json --addFile site-overrides.json")
           .leaves("service.json", kServiceAtNorth),
-      ToolCall("a_site_merged_over_the_service_without_saving")
-          .given("service.json", exampleFile("service.json"))
-          .given("site-overrides.json", exampleFile("site-overrides.json"))
-          .call("-af service.json -af site-overrides.json -ras allowedOrigins")
-          .prints("\"https://console.internal\" \"https://status.internal\" \"https://north.internal\"\n"),
-      ToolCall("the_links_of_the_graph_as_sorted_records")
-          .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call("-f hypergraph.json -roac links id hostname port")
-          .prints("0 10.20.0.11 2099 1 10.20.0.12 3002 10 dogwood.internal 2099 2 cedar.internal 2099\n"),
-      ToolCall("the_links_of_the_graph_with_separators")
-          .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call("-f hypergraph.json -roacs links id hostname port /:")
-          .prints("0/10.20.0.11:2099 1/10.20.0.12:3002 10/dogwood.internal:2099 2/cedar.internal:2099\n"),
-      ToolCall("the_zones_of_the_graph_counted")
-          .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call("-f hypergraph.json -roac links zone port")
-          .prints("north 2099(2) south 3002 west 2099\n"),
-      ToolCall("the_peers_of_the_graph_with_one_missing")
-          .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call("-f hypergraph.json -roacs links peer.name peer.latencyMs =")
-          .prints("= alder=2.5(2) birch=11.0\n")
-          .reports("--read error : Path \"peer.name\" does not exist\n"
-                   "--read error : Path \"peer.latencyMs\" does not exist\n"),
-      ToolCall("the_limit_of_a_pool_found_by_one_of_its_names")
-          .given("provisioning.json", exampleFile("provisioning.json"))
-          .call("-f provisioning.json -r processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor")
-          .prints("12\n"),
-      ToolCall("a_pool_that_does_not_exist")
-          .given("provisioning.json", exampleFile("provisioning.json"))
-          .call("-f provisioning.json -r processProvisioning.pools.names=Nowhere.reserved")
-          .reports("Kovalt path not found with refKey=refValue \"names=Nowhere\"\n"),
-      ToolCall("the_limit_of_a_pool_changed_in_place")
-          .given("provisioning.json", exampleFile("provisioning.json"))
-          .call("-f provisioning.json -an processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor 16")
-          .leaves("provisioning.json", kLargerPool),
-      ToolCall("the_service_is_laid_out_as_it_is_saved")
-          .given("service.json", exampleFile("service.json"))
-          .call("-f service.json -rm network.proxy")
-          .leaves("service.json", savedExample("service.json")),
-      ToolCall("the_site_is_laid_out_as_it_is_saved")
-          .given("site-overrides.json", exampleFile("site-overrides.json"))
-          .call("-f site-overrides.json -rm site.gone")
-          .leaves("site-overrides.json", savedExample("site-overrides.json")),
-      ToolCall("the_graph_is_laid_out_as_it_is_saved")
-          .given("hypergraph.json", exampleFile("hypergraph.json"))
-          .call("-f hypergraph.json -rm links.gone")
-          .leaves("hypergraph.json", savedExample("hypergraph.json")),
-      ToolCall("the_pools_are_laid_out_as_they_are_saved")
-          .given("provisioning.json", exampleFile("provisioning.json"))
-          .call("-f provisioning.json -rm processProvisioning.gone")
-          .leaves("provisioning.json", savedExample("provisioning.json")),
+      example("links_of_the_graph", "hypergraph.json", "-roac links id hostname port")
+          .printsLine("0 10.20.0.11 2099 1 10.20.0.12 3002 10 dogwood.internal 2099 2 cedar.internal 2099"),
+      example("links_of_the_graph_with_separators", "hypergraph.json", "-roacs links id hostname port /:")
+          .printsLine("0/10.20.0.11:2099 1/10.20.0.12:3002 10/dogwood.internal:2099 2/cedar.internal:2099"),
+      example("zones_of_the_graph", "hypergraph.json", "-roac links zone port")
+          .printsLine("north 2099(2) south 3002 west 2099"),
+      example("peers_of_the_graph", "hypergraph.json", "-roacs links peer.name peer.latencyMs =")
+          .printsLine("= alder=2.5(2) birch=11.0")
+          .reports(readError("peer.name") + readError("peer.latencyMs")),
+      example("limit_of_a_pool", "provisioning.json",
+              "-r processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor")
+          .printsLine("12"),
+      example("missing_pool", "provisioning.json", "-r processProvisioning.pools.names=Nowhere.reserved")
+          .reports(notFound("names=Nowhere")),
+      example("limit_of_a_pool_is_replaced", "provisioning.json",
+              "-an processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor 16")
+          .leaves("provisioning.json", replaced(saved("provisioning.json"), ": 12", ": 16")),
+      example("service_is_saved_in_its_layout", "service.json", "-rm network.proxy")
+          .leaves("service.json", saved("service.json")),
+      example("site_is_saved_in_its_layout", "site-overrides.json", "-rm site.gone")
+          .leaves("site-overrides.json", saved("site-overrides.json")),
+      example("graph_is_saved_in_its_layout", "hypergraph.json", "-rm links.gone")
+          .leaves("hypergraph.json", saved("hypergraph.json")),
+      example("pools_are_saved_in_their_layout", "provisioning.json", "-rm processProvisioning.gone")
+          .leaves("provisioning.json", saved("provisioning.json")),
   };
 }
 
