@@ -21,19 +21,19 @@ namespace fs = std::filesystem;
 
 constexpr unsigned kUnprivilegedUser = 65534;
 
-/// A fresh folder, removed with all that is in it.
-class WorkingFolder {
+/// A fresh directory, which is removed with its content.
+class WorkingDirectory {
  public:
-  WorkingFolder() {
+  WorkingDirectory() {
     std::string pattern = (fs::temp_directory_path() / "kovalt-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr) {
-      throw std::runtime_error("cannot make a working folder");
+      throw std::runtime_error("cannot create a working directory");
     }
     path_ = pattern;
   }
-  WorkingFolder(const WorkingFolder&) = delete;
-  WorkingFolder& operator=(const WorkingFolder&) = delete;
-  ~WorkingFolder() {
+  WorkingDirectory(const WorkingDirectory&) = delete;
+  WorkingDirectory& operator=(const WorkingDirectory&) = delete;
+  ~WorkingDirectory() {
     for (const auto& entry : fs::recursive_directory_iterator(path_)) {
       if (!entry.is_symlink() && entry.is_directory()) {
         fs::permissions(entry.path(), fs::perms::owner_all);
@@ -48,12 +48,12 @@ class WorkingFolder {
   fs::path path_;
 };
 
-/// An unnamed file that takes one of the program's streams.
+/// An unnamed file that receives a stream of the program.
 class CapturedStream {
  public:
   CapturedStream() : file_(std::tmpfile()) {
     if (file_ == nullptr) {
-      throw std::runtime_error("cannot make a file for a stream");
+      throw std::runtime_error("cannot create a file for a stream");
     }
     fcntl(descriptor(), F_SETFL, O_APPEND);
   }
@@ -77,8 +77,8 @@ class CapturedStream {
   std::FILE* file_;
 };
 
-void writeEntry(const fs::path& folder, const Entry& entry) {
-  const fs::path path = folder / entry.path;
+void writeEntry(const fs::path& directory, const Entry& entry) {
+  const fs::path path = directory / entry.path;
   fs::create_directories(path.parent_path());
   switch (entry.kind) {
     case Entry::Kind::directory:
@@ -94,7 +94,7 @@ void writeEntry(const fs::path& folder, const Entry& entry) {
   fs::permissions(path, static_cast<fs::perms>(entry.mode));
 }
 
-/// The bytes of a file, also of one whose mode keeps an ordinary user from reading it.
+/// The bytes of a file, even if its mode does not let an ordinary user read it.
 std::string readFile(const fs::path& path) {
   const fs::perms mode = fs::status(path).permissions();
   fs::permissions(path, mode | fs::perms::owner_read);
@@ -103,11 +103,11 @@ std::string readFile(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// Everything below a folder, by its relative path.
-std::map<std::string, std::string> listFiles(const fs::path& folder) {
+/// Everything below a directory, by its relative path.
+std::map<std::string, std::string> listFiles(const fs::path& directory) {
   std::map<std::string, std::string> files;
-  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-    const std::string name = entry.path().lexically_relative(folder).string();
+  for (const auto& entry : fs::recursive_directory_iterator(directory)) {
+    const std::string name = entry.path().lexically_relative(directory).string();
     if (entry.is_symlink()) {
       files[name] = "link to " + fs::read_symlink(entry.path()).string();
     } else if (entry.is_directory()) {
@@ -119,12 +119,12 @@ std::map<std::string, std::string> listFiles(const fs::path& folder) {
   return files;
 }
 
-/// The modes of all files below a folder.
-std::map<std::string, fs::perms> listModes(const fs::path& folder) {
+/// The modes of all files below a directory.
+std::map<std::string, fs::perms> listModes(const fs::path& directory) {
   std::map<std::string, fs::perms> modes;
-  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+  for (const auto& entry : fs::recursive_directory_iterator(directory)) {
     if (!entry.is_symlink() && !entry.is_directory()) {
-      modes[entry.path().lexically_relative(folder).string()] = entry.status().permissions();
+      modes[entry.path().lexically_relative(directory).string()] = entry.status().permissions();
     }
   }
   return modes;
@@ -137,29 +137,29 @@ int openOutput(bool closed, bool full, const CapturedStream& stream) {
   return full ? open("/dev/full", O_WRONLY) : dup(stream.descriptor());
 }
 
-void giveTo(unsigned user, const fs::path& folder) {
-  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+void giveTo(unsigned user, const fs::path& directory) {
+  for (const auto& entry : fs::recursive_directory_iterator(directory)) {
     if (lchown(entry.path().c_str(), user, user) != 0) {
       throw std::runtime_error("cannot give away " + entry.path().string());
     }
   }
-  if (chown(folder.c_str(), user, user) != 0) {
-    throw std::runtime_error("cannot give away the working folder");
+  if (chown(directory.c_str(), user, user) != 0) {
+    throw std::runtime_error("cannot give away the working directory");
   }
 }
 
-/// The program under test: the one that was built, or what KOVALT_TEST_PROGRAM names in its place, such as another
-/// build or a script that runs the program under a checking tool.
+/// The program under test: the one that was built, or the one that KOVALT_TEST_PROGRAM names, such as another build or
+/// a script that runs the program under a checking tool.
 const char* programPath() {
   const char* replacement = std::getenv("KOVALT_TEST_PROGRAM");
   return replacement == nullptr ? KOVALT_PROGRAM : replacement;
 }
 
-/// What the child process does between fork and exec; it never returns.
-[[noreturn]] void execute(const std::vector<std::string>& arguments, const fs::path& folder, int output, int errors,
+/// Runs in the child process, and becomes the program.
+[[noreturn]] void execute(const std::vector<std::string>& arguments, const fs::path& directory, int output, int errors,
                           bool dropPrivileges) {
-  // Opened before the privileges go: the build folder may be closed to others. It stays open, because the interpreter
-  // of a script opens it again.
+  // Opened before the privileges are dropped, because other users may have no access to the build directory. Not closed
+  // by exec, because the interpreter of a script opens it again.
   const int program = open(programPath(), O_RDONLY);
   std::vector<char*> argumentVector;
   std::string name = "Kovalt";
@@ -177,7 +177,7 @@ const char* programPath() {
     dup2(output, STDOUT_FILENO);
   }
   dup2(errors, STDERR_FILENO);
-  if (chdir(folder.c_str()) == 0 &&
+  if (chdir(directory.c_str()) == 0 &&
       (!dropPrivileges || (setgid(kUnprivilegedUser) == 0 && setuid(kUnprivilegedUser) == 0))) {
     fexecve(program, argumentVector.data(), environ);
   }
@@ -187,25 +187,25 @@ const char* programPath() {
 }  // namespace
 
 void ToolCall::check() const {
-  const WorkingFolder folder;
+  const WorkingDirectory directory;
   const CapturedStream output;
   const CapturedStream errors;
-  // Folders last, so that their modes do not keep the files inside from being made.
-  for (const bool folders : {false, true}) {
+  // Directories last, because their modes may prevent the creation of files.
+  for (const bool directories : {false, true}) {
     for (const Entry& entry : before_) {
-      if ((entry.kind == Entry::Kind::directory) == folders) {
-        writeEntry(folder.path(), entry);
+      if ((entry.kind == Entry::Kind::directory) == directories) {
+        writeEntry(directory.path(), entry);
       }
     }
   }
-  std::map<std::string, std::string> expectedFiles = listFiles(folder.path());
+  std::map<std::string, std::string> expectedFiles = listFiles(directory.path());
   for (const Entry& entry : changed_) {
     expectedFiles[entry.path] = entry.content;
   }
-  const std::map<std::string, fs::perms> modesBefore = listModes(folder.path());
+  const std::map<std::string, fs::perms> modesBefore = listModes(directory.path());
   const bool dropPrivileges = unprivileged_ && geteuid() == 0;
   if (dropPrivileges) {
-    giveTo(kUnprivilegedUser, folder.path());
+    giveTo(kUnprivilegedUser, directory.path());
   }
 
   const int outputDescriptor = openOutput(outputPlace_ == Output::closed, outputPlace_ == Output::full, output);
@@ -213,7 +213,7 @@ void ToolCall::check() const {
   const pid_t child = fork();
   ASSERT_GE(child, 0);
   if (child == 0) {
-    execute(arguments_, folder.path(), outputDescriptor, errorDescriptor, dropPrivileges);
+    execute(arguments_, directory.path(), outputDescriptor, errorDescriptor, dropPrivileges);
   }
   if (outputDescriptor >= 0) {
     close(outputDescriptor);
@@ -223,8 +223,7 @@ void ToolCall::check() const {
 
   EXPECT_EQ(output.content(), output_) << "standard output";
   if (aborts_) {
-    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT)
-        << "not ended by SIGABRT but with status " << status;
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT) << "did not abort, wait status " << status;
     EXPECT_EQ(errors.content().substr(0, errors_.size()), errors_) << "start of standard error";
     EXPECT_NE(errors.content().find(abortFragment_, errors_.size()), std::string::npos)
         << "standard error lacks " << abortFragment_ << ":\n"
@@ -234,8 +233,8 @@ void ToolCall::check() const {
     EXPECT_EQ(WEXITSTATUS(status), status_) << "exit status";
     EXPECT_EQ(errors.content(), errors_) << "standard error";
   }
-  EXPECT_EQ(listFiles(folder.path()), expectedFiles) << "files after the call";
-  std::map<std::string, fs::perms> modesAfter = listModes(folder.path());
+  EXPECT_EQ(listFiles(directory.path()), expectedFiles) << "files after the call";
+  std::map<std::string, fs::perms> modesAfter = listModes(directory.path());
   for (const auto& [path, mode] : modesBefore) {
     EXPECT_EQ(modesAfter[path], mode) << "mode of " << path;
   }

@@ -6,8 +6,8 @@
 
 namespace kovalt::test {
 
-/// The bytes of the file `path` of the project, or of the copy that KOVALT_TEST_PROJECT names in its place. Throws
-/// std::runtime_error, naming the file, when it cannot be read.
+/// The bytes of the file `path` of the project, or of the copy of the project that KOVALT_TEST_PROJECT names. Throws
+/// std::runtime_error with the name of the file if it cannot be read.
 std::string projectFile(const std::string& path);
 
 /// The bytes of the example file `name`. Throws as projectFile does.

@@ -1,4 +1,4 @@
-// Makes every row of every table a test, and runs them.
+// Registers every row of every table as a test, and runs them.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ class RowTest : public testing::Test {
   ToolCall row_;
 };
 
-/// Throws std::logic_error where two rows of a table have one name, or a table none.
+/// Throws std::logic_error if two rows of a table have the same name, or if a table has no rows.
 void addTests(const Table& table) {
   std::set<std::string> names;
   for (const ToolCall& row : table.rows()) {
@@ -41,7 +41,7 @@ void addTests(const Table& table) {
 
 }  // namespace
 
-// A table that is wrong ends the program, which says why.
+// A wrong table aborts the program, which prints the reason.
 // NOLINTNEXTLINE(bugprone-exception-escape)
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
