@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Renders a manual page at 80 columns, in plain ASCII and in UTF-8, and fails where a reader would stumble.
+"""Renders a manual page at 80 columns, in ASCII and in UTF-8, and fails if it is hard to read.
 
-That is a line that is too long, a list that is not aligned, a path that seems to end in two dots, a character that
-ASCII has to guess, and a heading or an example that is not shown exactly as its source has it.
+Faults are lines that are too long, lists that are not aligned, paths that seem to end in two dots, characters that
+ASCII has to replace, and headings and examples that differ from the source.
 """
 
 import argparse
@@ -25,7 +25,7 @@ def render(page, locale):
 
 
 def example_lines(source):
-    """The lines of the examples as they must be shown."""
+    """Yields the lines of the examples as they must be rendered."""
     for block in read_blocks(source):
         for command in block.commands:
             yield "$ " + command.text.replace("\n", "\n> ")
@@ -33,7 +33,7 @@ def example_lines(source):
 
 
 def headings(source):
-    """The headings of the sections and tasks, without the title of a Markdown document."""
+    """Yields the headings of sections and tasks, without the title of a Markdown document."""
     first_level = 2 if source.suffix == ".md" else 1
     for level, heading in re.findall(r"^(#+) (.*)$", source.read_text(encoding="utf-8"), re.MULTILINE):
         if len(level) >= first_level:
@@ -53,13 +53,13 @@ def faults(text, titles, examples, locale):
         item = re.match(r" +(?:[0-9]+\.|o) +(?=\S)", line)
         if item and following.strip() and not re.match(r" +(?:[0-9]+\.|o) ", following):
             if len(following) - len(following.lstrip()) != item.end():
-                yield f"line {number} begins an item that goes on in another column: {line}"
+                yield f"line {number} begins an item that continues in another column: {line}"
     for heading in titles:
         if heading not in shown:
-            yield f"heading not shown as it is in the source: {heading}"
+            yield f"heading differs from the source: {heading}"
     for example in examples:
         if any(line and INDENT + line not in shown for line in example.splitlines()):
-            yield f"not shown as it is in the source: {example}"
+            yield f"example differs from the source: {example}"
 
 
 def main():
@@ -75,11 +75,11 @@ def main():
     found = []
     for locale, text in rendered.items():
         found += [f"{locale}: {fault}" for fault in faults(text, titles, examples, locale)]
-    # ASCII shows what it lacks by something else, so that both must be alike.
+    # If ASCII lacks a character, man replaces it, and the renderings differ.
     bullets = rendered["C.UTF-8"].replace("\N{BULLET}", "o")
     for ascii_line, line in zip(rendered["C"].splitlines(), bullets.splitlines()):
         if ascii_line != line:
-            found.append(f"shown in ASCII as: {ascii_line}\nand in UTF-8 as: {line}")
+            found.append(f"ASCII: {ascii_line}\nUTF-8: {line}")
     if len(examples) < arguments.at_least:
         found.append(f"only {len(examples)} lines of examples were found")
     print("\n".join(found) or f"{len(examples)} lines of examples, no fault")

@@ -2,17 +2,18 @@
 """Runs every example of a document and compares what it shows with what the shell prints, byte for byte.
 
 An example is a fenced block that begins with a "$ " line. Such a line is a command, "> " lines continue it, and all
-others are what it prints on both streams. The blocks of a section share one shell, so a later one may look at "$?" or
-at a variable, and one fresh folder with copies of the example files. Every section runs in bash, and again in dash,
-which stands for every POSIX shell; a Markdown block marked "console bash" keeps its section out of dash.
+other lines are its output on both streams. The blocks of a section share one shell, so that a block can use "$?" or a
+variable of an earlier one, and one fresh directory with copies of the example files. Every section runs in bash and
+then in dash, as an example of a POSIX shell. If a Markdown block is marked "console bash", its section runs in bash
+only.
 
-A Markdown block marked "console same" does with other tools what the block before it does: it runs in a fresh folder
-of its own, and its last command must print the same, as JSON where both are JSON.
+A Markdown block marked "console same" does the same as the block before it, with other tools. It runs in a fresh
+directory of its own. The last commands of both must print the same, or the same JSON.
 
-Where the tool is installed, "$prefix" says where.
+"$prefix" is the directory in which the tool is installed.
 
-There is a sudo that needs no password: it leaves out the files that are open beside the standard streams, as sudo
-does, and runs the command as the same user.
+A replacement of sudo needs no password: like sudo it closes all files but the standard streams, and then it runs the
+command as the same user.
 """
 
 import argparse
@@ -39,7 +40,7 @@ class Command:
         self.line_number = line_number
         self.text = text
         self.expected = ""
-        self.printed = {}  # By each shell that was to run it; nothing where it did not get there.
+        self.printed = {}  # By shell; None if the shell exited before.
 
 
 class Block:
@@ -51,7 +52,7 @@ class Block:
 
 
 def read_blocks(path):
-    """The example blocks of a document, in order."""
+    """Returns the example blocks of a document in order."""
     blocks, block, fence, section = [], None, None, 0
     for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
         opening = re.match(r"(\s*)```(.*)$", line)
@@ -67,7 +68,7 @@ def read_blocks(path):
         else:
             add_line(block, number, unescape(path, line.removeprefix(fence)))
     if fence is not None:
-        sys.exit(f"{path}: the last block has no end")
+        sys.exit(f"{path}: the last block is not closed")
     return blocks
 
 
@@ -87,7 +88,7 @@ def add_line(block, number, line):
 
 
 def run_in_one_shell(shell, commands, program, examples, prefix):
-    """Runs the commands in a fresh folder and notes what each of them prints."""
+    """Runs the commands in a fresh directory and stores the output of each."""
     with tempfile.TemporaryDirectory() as top:
         folder = Path(top, "work")
         shutil.copytree(examples, folder)
@@ -96,7 +97,7 @@ def run_in_one_shell(shell, commands, program, examples, prefix):
         (tools / "Kovalt").symlink_to(program)
         (tools / "sudo").write_text(SUDO, encoding="utf-8")
         (tools / "sudo").chmod(0o755)
-        # The mark after each command's output keeps the status that the next command may ask for.
+        # Marks the end of each command's output. The next command may use its status, which the mark keeps.
         mark = '\n{ status=$?; printf "\\001\\n"; (exit "$status"); }\n'
         done = subprocess.run(
             [shell, "-c", "exec 2>&1\n" + "".join(command.text + mark for command in commands)],
@@ -130,7 +131,7 @@ def run_blocks(blocks, *tool):
 
 
 def meaning(text):
-    """What a text says: its JSON value with the order of members, or else the text."""
+    """Returns the JSON value of a text, with the order of its members, or the text if it is not JSON."""
     try:
         return json.loads(text, object_pairs_hook=lambda members: ("object", members))
     except ValueError:
@@ -149,7 +150,7 @@ def failures(path, blocks):
                     )
         last = block.commands[-1]
         if block.same and (previous is None or meaning(last.expected) != meaning(previous.expected)):
-            yield f"{path}:{last.line_number}: does not show the same as the block before it\n"
+            yield f"{path}:{last.line_number}: does not print the same as the block before it\n"
         previous = last
 
 
