@@ -15,7 +15,7 @@ from make_data import KINDS, LAST, write_kind
 from measuring import Call, Measuring, as_json, exponent
 from record import Record
 
-BUILD = Path(sys.argv.pop(1)).resolve() if len(sys.argv) > 1 else Path("build/bench").resolve()
+BUILD = Path(sys.argv.pop(1)).resolve() if len(sys.argv) > 1 else Path("build/test").resolve()
 SCRIPTS = Path(__file__).resolve().parent
 
 

@@ -1,8 +1,8 @@
 # Run at the end of each installation. Expects `bin`, `man` and `share`, the folders below the prefix.
 cmake_policy(VERSION 3.25)
 
-# The command is found in lower case too, with its page and its completions. On a file system that does not tell the
-# names apart it is found anyway, and a link would take the place of the file.
+# Adds the command, its page and its completions under their names in lower case. On a file system that ignores case
+# these exist already, and a link would replace the file.
 foreach(path ${bin}/Kovalt ${man}/man1/Kovalt.1 ${share}/bash-completion/completions/Kovalt
              ${share}/fish/vendor_completions.d/Kovalt.fish)
   cmake_path(GET path PARENT_PATH folder)
@@ -17,17 +17,15 @@ foreach(path ${bin}/Kovalt ${man}/man1/Kovalt.1 ${share}/bash-completion/complet
   endif()
 endforeach()
 
-# A shell that does not look for completions below the prefix takes a line in the file with which it starts.
-function(tell_completion shell file line)
-  if(NOT CMAKE_INSTALL_PREFIX IN_LIST ARGN)
+# Prints the line for the startup file of a shell, unless that searches the prefix: one of the last arguments.
+function(print_completion_line shell file line)
+  if(NOT CMAKE_INSTALL_PREFIX IN_LIST ARGN AND "$ENV{DESTDIR}" STREQUAL "")
     message(NOTICE "To complete in ${shell}, add to ${file}:\n  ${line}")
   endif()
 endfunction()
-if("$ENV{DESTDIR}" STREQUAL "")
-  set(data ${CMAKE_INSTALL_PREFIX}/${share})
-  set(home $ENV{HOME}/.local)
-  tell_completion(bash ~/.bashrc ". \"${data}/bash-completion/completions/Kovalt\"" /usr /usr/local ${home})
-  tell_completion(zsh "~/.zshrc, before compinit" "fpath=(\"${data}/zsh/site-functions\" $fpath)" /usr /usr/local)
-  tell_completion(fish ~/.config/fish/config.fish "set -p fish_complete_path \"${data}/fish/vendor_completions.d\"" /usr
-                  ${home})
-endif()
+set(data ${CMAKE_INSTALL_PREFIX}/${share})
+set(home $ENV{HOME}/.local)
+print_completion_line(bash ~/.bashrc ". \"${data}/bash-completion/completions/Kovalt\"" /usr /usr/local ${home})
+print_completion_line(zsh "~/.zshrc, before compinit" "fpath=(\"${data}/zsh/site-functions\" $fpath)" /usr/local)
+print_completion_line(fish ~/.config/fish/config.fish "set -p fish_complete_path \"${data}/fish/vendor_completions.d\""
+                      /usr ${home})

@@ -1,52 +1,73 @@
 # shellcheck shell=bash disable=SC2034
-# Sourced by the scripts that build. Expects the project's folder as the current one, and stage.sh.
+# Sourced by the scripts that build. Expects the project's folder as the current one.
 
-# What a build needs.
-build_packages=(cmake ninja-build g++ libc6-dev rapidjson-dev)
-# What the packages need besides.
-package_packages=(dpkg-dev rpm scdoc)
-# What the tests need besides.
+. scripts/lib/usage.sh
+
+# The Debian packages that a build needs, and what the tests need besides.
+build_packages=(cmake ninja-build g++ rapidjson-dev)
 test_packages=(bash-completion clang-format dpkg-dev fakeroot fish gnuplot-nox jq libgtest-dev man-db mandoc python3 scdoc
   strace tmux valgrind zsh)
+# The architectures that have a toolchain file in cmake/.
+architectures=(amd64 arm64 armhf riscv64 i386 s390x)
 
-# Configures build/FOLDER from a preset, with further arguments for CMake, where that was not done in this place: a
-# checkout that was copied or moved brings the build folders of the old one.
-configure() {
-  local folder=$1 preset=$2 home
-  shift 2
-  if [[ -f build/$folder/build.ninja ]]; then
-    home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "build/$folder/CMakeCache.txt")
-    if [[ $home -ef . ]]; then
-      return
-    fi
-  fi
-  run_stage "Configuring $folder" cmake --fresh --preset "$preset" -B "build/$folder" "$@"
+# Installs those of the named packages that are missing. Does nothing on systems without apt-get, where CMake reports
+# what it does not find.
+require_packages() {
+  local package missing=() as_root=()
+  command -v apt-get >/dev/null || return 0
+  for package in "$@"; do
+    [[ $(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
+      missing+=("$package")
+  done
+  ((${#missing[@]} != 0)) || return 0
+  echo "Installing Debian packages: ${missing[*]}" >&2
+  ((EUID == 0)) || as_root=(sudo)
+  {
+    "${as_root[@]}" apt-get update &&
+      "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install --yes --no-install-recommends "${missing[@]}"
+  } >&2 || {
+    echo "Could not install them. Run this as root, then try again: apt-get install ${missing[*]}" >&2
+    exit 1
+  }
 }
 
-# Brings the targets of build/FOLDER up to date, or everything without a target.
+# Configures build/FOLDER from a preset, with further arguments for CMake. Does nothing where that was done in this place:
+# a checkout that was copied or moved brings build folders of another place.
+configure() {
+  local folder=$1 preset=$2 home
+  if [[ -f build/$folder/build.ninja ]]; then
+    home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "build/$folder/CMakeCache.txt")
+    [[ ! $home -ef . ]] || return 0
+  fi
+  echo "Configuring build/$folder" >&2
+  cmake --fresh --preset "$preset" -B "build/$folder" "${@:3}" >/dev/null
+}
+
+# Brings the targets of build/FOLDER up to date, or everything without a target. Prints the steps on standard error, and
+# nothing where there is nothing to do.
 build() {
-  local folder=$1
-  shift
-  run_build_stage "Building $folder" cmake --build "build/$folder" ${1:+--target "$@"}
+  cmake --build "build/$1" ${2:+--target "${@:2}"} 2>&1 |
+    sed --unbuffered -e '/^ninja: no work to do/d' -e '/^\[0\//d' >&2
 }
 
 # Brings the targets of a preset up to date, or everything without a target.
 build_preset() {
-  configure "$1" "$1" && build "$@"
+  configure "$1" "$1"
+  build "$@"
 }
 
 # Runs the tests of build/FOLDER. Further arguments are for ctest.
 run_tests() {
-  local folder=$1
-  shift
-  ctest --test-dir "build/$folder" --output-on-failure --parallel 2 "$@"
+  ctest --test-dir "build/$1" --output-on-failure --parallel 2 "${@:2}"
 }
 
-# Builds GoogleTest from the sources that the package googletest brings, with settings for CMake, and installs it into
-# the folder root of build/FOLDER.
-make_googletest() {
-  local folder=$PWD/build/$1
-  shift
-  cmake -G Ninja -S /usr/src/googletest -B "$folder" -DBUILD_GMOCK=OFF -DCMAKE_INSTALL_PREFIX="$folder/root" "$@"
-  cmake --build "$folder" --target install
+# Sets `toolchain` to CMake's arguments for an architecture, none for that of this machine, and installs its compiler.
+choose_toolchain() {
+  local triple
+  toolchain=()
+  if [[ $1 != "$(dpkg --print-architecture)" ]]; then
+    toolchain=(--toolchain "$PWD/cmake/$1.cmake")
+    triple=$(sed -n 's/^set(CMAKE_CXX_COMPILER \(.*\)-g++)$/\1/p' "cmake/$1.cmake")
+    require_packages "g++-${triple//_/-}"
+  fi
 }

@@ -1,0 +1,4 @@
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_CXX_COMPILER x86_64-linux-gnu-g++)
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-x86_64-static -L /usr/x86_64-linux-gnu)
