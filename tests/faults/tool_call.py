@@ -67,7 +67,11 @@ class Folder:
 
 
 def arguments():
-    """The program that the command line names, and whether only the quick part of a script is wanted."""
+    """The program that the command line names, and whether only the quick part of a script is wanted. With --help, prints
+    the usage and exits."""
+    if "--help" in sys.argv:
+        print(sys.modules["__main__"].__doc__)
+        sys.exit()
     quick = "--quick" in sys.argv
     program = next(argument for argument in sys.argv[1:] if argument != "--quick")
     return str(pathlib.Path(program).resolve()), quick
@@ -106,5 +110,5 @@ def shown(thing):
 
 
 def figure(name, value):
-    """Prints a line that scripts/prove gathers into its table."""
+    """Prints a line that scripts/prove takes as a figure."""
     print(f"FIGURE\t{name}\t{value}")
