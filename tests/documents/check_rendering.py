@@ -78,8 +78,7 @@ def main():
     bullets = rendered["C.UTF-8"].replace("\N{BULLET}", "o")
     for ascii_line, line in zip(rendered["C"].splitlines(), bullets.splitlines()):
         if ascii_line != line:
-            found.append(f"ASCII: {ascii_line}
-UTF-8: {line}")
+            found.append(f"ASCII: {ascii_line}\nUTF-8: {line}")
     if not examples:
         found.append("no lines of examples were found")
     print("\n".join(found) or f"{len(examples)} lines of examples, no fault")
