@@ -174,4 +174,4 @@ _kovalt() {
     # The line is added only where the candidates are listed and it is not inserted.
     [[ $kind != 'words cut' || $COMP_TYPE != @(33|63|64) ]] || COMPREPLY+=("$start (the list is cut)")
   fi
-} && complete -F _kovalt Kovalt kovalt
+} && complete -F _kovalt Kovalt kovalt kovalt-edit

@@ -57,4 +57,4 @@ function __kovalt_complete
     end
 end
 
-complete --command Kovalt --command kovalt --no-files --arguments '(__kovalt_complete)'
+complete --command Kovalt --command kovalt --command kovalt-edit --no-files --arguments '(__kovalt_complete)'

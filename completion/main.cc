@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "completion/complete.h"
+#include "completion/complete_edit.h"
 
 namespace {
 
@@ -30,7 +31,7 @@ void completeAndPrint(const std::vector<std::string>& words, std::string_view po
   std::size_t cursor = 0;
   const auto [end, error] = std::from_chars(position.data(), position.data() + position.size(), cursor);
   if (error == std::errc() && cursor > 0 && cursor < words.size()) {
-    print(kovalt::complete(words, cursor));
+    print(kovalt::isEditCommand(words.front()) ? kovalt::completeEdit(words, cursor) : kovalt::complete(words, cursor));
   }
 }
 

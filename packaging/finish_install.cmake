@@ -2,19 +2,26 @@
 cmake_policy(VERSION 3.25)
 
 # Adds the command, its page and its completions under their names in lower case. On a file system that ignores case
-# these exist already, and a link would replace the file.
+# these exist already, and a link would replace the file. The completions serve kovalt-edit, too: bash and fish look for a
+# script with the name of the command.
 foreach(path ${bin}/Kovalt ${man}/man1/Kovalt.1 ${share}/bash-completion/completions/Kovalt
              ${share}/fish/vendor_completions.d/Kovalt.fish)
   cmake_path(GET path PARENT_PATH folder)
   cmake_path(GET path FILENAME name)
-  string(TOLOWER ${name} lower_name)
-  set(link ${CMAKE_INSTALL_PREFIX}/${folder}/${lower_name})
-  set(place $ENV{DESTDIR}${link})
-  if(EXISTS $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/${path} AND (IS_SYMLINK ${place} OR NOT EXISTS ${place}))
-    message(STATUS "Installing: ${place}")
-    file(CREATE_LINK ${name} ${place} SYMBOLIC)
-    list(APPEND CMAKE_INSTALL_MANIFEST_FILES ${link})
+  string(TOLOWER ${name} names)
+  if(folder MATCHES completions)
+    string(REPLACE Kovalt kovalt-edit edit_name ${name})
+    list(APPEND names ${edit_name})
   endif()
+  foreach(link_name IN LISTS names)
+    set(link ${CMAKE_INSTALL_PREFIX}/${folder}/${link_name})
+    set(place $ENV{DESTDIR}${link})
+    if(EXISTS $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/${path} AND (IS_SYMLINK ${place} OR NOT EXISTS ${place}))
+      message(STATUS "Installing: ${place}")
+      file(CREATE_LINK ${name} ${place} SYMBOLIC)
+      list(APPEND CMAKE_INSTALL_MANIFEST_FILES ${link})
+    endif()
+  endforeach()
 endforeach()
 
 # Prints the line for the startup file of a shell, unless that searches the prefix: one of the last arguments.

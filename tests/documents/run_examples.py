@@ -28,6 +28,7 @@ from itertools import groupby, zip_longest
 from pathlib import Path
 
 END_OF_OUTPUT = b"\x01\n"
+EDIT_SCRIPT = Path(__file__).resolve().parent.parent.parent / "edit" / "kovalt-edit"
 SUDO = f"""#!{sys.executable}
 import os, sys
 os.closerange(3, 256)
@@ -97,6 +98,7 @@ def run_in_one_shell(shell, commands, program, examples, prefix):
         tools = Path(top, "bin")
         tools.mkdir()
         (tools / "Kovalt").symlink_to(program)
+        (tools / "kovalt-edit").symlink_to(EDIT_SCRIPT)
         (tools / "sudo").write_text(SUDO, encoding="utf-8")
         (tools / "sudo").chmod(0o755)
         # Marks the end of each command's output. The next command may use its status, which the mark keeps.
