@@ -95,7 +95,7 @@ const std::array<Option, 21> kOptionTable = {{
      addRead<ReadArraySpaceAction>},
     {"--readArraySpaceNoQuote", "-rasq", kKeyPath, kNothing, 1, kRead, "print an array, separated by spaces, no quotes",
      addRead<ReadArraySpaceNoQuoteAction>},
-    // The usage text also calls it the equivalent of the comma form. This is what it is.
+    // The usage text also calls it the equivalent of the comma form, which is wrong.
     {"--readArray", "-ra", kKeyPath, kNothing, 1, kRead, "another name of --readArraySpaceNoQuote",
      addRead<ReadArraySpaceNoQuoteAction>},
     {"--readArrayComma", "-rac", kKeyPath, kNothing, 1, kRead, "print an array, separated by commas",

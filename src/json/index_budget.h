@@ -17,7 +17,7 @@ class IndexBudget {
   /// or elements than that are always scanned.
   static constexpr std::size_t kEntryCost = 32;
 
-  /// Earns what a scan of so many comparisons costs.
+  /// Earns what a scan of that many comparisons costs.
   void earn(std::size_t comparisons) { earned_ += comparisons; }
 
   /// Pays for adding `entries` entries. Returns false, having paid nothing, if too little was earned.

@@ -5,9 +5,6 @@
 
 namespace kovalt {
 
-AddFileAtAction::AddFileAtAction(std::string_view keyPath, std::string_view filePath)
-    : EditAction(keyPath), value_(filePath) {}
-
 bool AddFileAtAction::apply(Value* target, EditedDocument& document) const {
   if (target == nullptr) {
     return false;
@@ -15,7 +12,7 @@ bool AddFileAtAction::apply(Value* target, EditedDocument& document) const {
   // Built in the pool of the target, so that merging moves its values instead of copying them.
   Document file(&document.allocator);
   file.SetObject();
-  loadDocument(value_, file, true);
+  loadDocument(filePath_, file, true);
   if (!target->IsObject()) {
     target->SetObject();
   }

@@ -10,7 +10,7 @@ namespace kovalt {
 /// Merges a JSON file into an object; with an empty key path, into the root.
 class AddFileAtAction : public EditAction {
  public:
-  AddFileAtAction(std::string_view keyPath, std::string_view filePath);
+  AddFileAtAction(std::string_view keyPath, std::string_view filePath) : EditAction(keyPath), filePath_(filePath) {}
 
   /// Merges the file into `target`, which first becomes an empty object if it is not an object. Returns false only for
   /// a null target. A file that cannot be opened or parsed is reported on standard error and treated as an empty
@@ -18,7 +18,7 @@ class AddFileAtAction : public EditAction {
   bool apply(Value* target, EditedDocument& document) const override;
 
  private:
-  std::string value_;
+  std::string filePath_;
 };
 
 }  // namespace kovalt

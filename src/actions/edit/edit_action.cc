@@ -6,10 +6,6 @@
 
 namespace kovalt {
 
-EditAction::EditAction(std::string_view keyPath) : keyPath_(keyPath) {}
-
-EditAction::~EditAction() = default;
-
 bool EditAction::apply(Value* /*target*/, EditedDocument& /*document*/) const { return true; }
 
 bool applyAtPath(const EditAction& action, EditedDocument& document) {

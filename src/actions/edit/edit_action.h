@@ -13,10 +13,10 @@ namespace kovalt {
 /// An addition: it writes one value at the place that its key path names.
 class EditAction {
  public:
-  explicit EditAction(std::string_view keyPath);
+  explicit EditAction(std::string_view keyPath) : keyPath_(keyPath) {}
   EditAction(const EditAction&) = delete;
   EditAction& operator=(const EditAction&) = delete;
-  virtual ~EditAction();
+  virtual ~EditAction() = default;
 
   /// Replaces `target`, a value of `document` or on its way into it, by the action's value, whatever it was. Returns
   /// false with `target` unchanged for a value that is not accepted, after a report on standard error, and for a null

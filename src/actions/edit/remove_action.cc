@@ -48,9 +48,6 @@ void removeEmptyAncestors(const std::vector<std::string>& steps, const std::vect
 
 }  // namespace
 
-RemoveAction::RemoveAction(std::string_view keyPath, EmptyParents emptyParents)
-    : KeyPath(keyPath), emptyParents_(emptyParents) {}
-
 bool RemoveAction::execute(EditedDocument& document) const {
   MemberFinder& members = document.lookups.members;
   if (steps().empty()) {

@@ -13,7 +13,7 @@ enum class EmptyParents { keep, clear };
 /// Removes the member that its key path names. All steps are plain member names here, even with "=".
 class RemoveAction : public KeyPath {
  public:
-  RemoveAction(std::string_view keyPath, EmptyParents emptyParents);
+  RemoveAction(std::string_view keyPath, EmptyParents emptyParents) : KeyPath(keyPath), emptyParents_(emptyParents) {}
 
   /// Removes the member from `document`, and with `EmptyParents::clear` also every object on the way that is then
   /// empty. The last member of an object moves into the gap. Prints nothing.

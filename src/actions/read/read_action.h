@@ -28,7 +28,7 @@ class ReadAction : public KeyPath {
   void addTo(Projection& projection, Projection::Place from) const;
 
  protected:
-  /// Of a read that looks at nothing but these fields of each element of an array.
+  /// If there are any, the read looks at nothing but these fields of each element of an array.
   std::vector<std::unique_ptr<ReadAction>> fields_;
 };
 

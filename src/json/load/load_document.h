@@ -15,11 +15,11 @@ namespace kovalt {
 /// value, which is always reported. A number too large for a double is an error too.
 bool loadDocument(const std::string& path, Document& document, bool reportOpenFailure);
 
-/// As `loadDocument`, but `document` becomes only what `projection` keeps of the file. The whole file is validated.
+/// As `loadDocument`, but keeps only what `projection` says. The whole file is validated.
 bool loadProjected(const std::string& path, const Projection& projection, Document& document, bool reportOpenFailure);
 
-/// Parses what `file` contains into `document`, of which it keeps what `projection` keeps. Returns false, with
-/// `document` unchanged and nothing reported, if that is not exactly one JSON value.
+/// Parses the content of `file` into `document`, and keeps what `projection` says. Returns false, with `document`
+/// unchanged and nothing reported, if the content is not exactly one JSON value.
 bool parseFile(std::FILE* file, const Projection& projection, Document& document);
 
 }  // namespace kovalt

@@ -22,8 +22,6 @@ KeyPath::KeyPath(std::string_view text, std::string_view separator) {
   steps_.emplace_back(text.substr(start));
 }
 
-KeyPath::~KeyPath() = default;
-
 std::string KeyPath::text() const {
   std::string joined;
   for (const std::string& step : steps_) {

@@ -31,7 +31,7 @@ class KeyPath {
   explicit KeyPath(std::string_view text, std::string_view separator = kStepSeparator);
   KeyPath(const KeyPath&) = delete;
   KeyPath& operator=(const KeyPath&) = delete;
-  virtual ~KeyPath();
+  virtual ~KeyPath() = default;
 
   /// The steps in order, byte for byte as they were written.
   [[nodiscard]] const std::vector<std::string>& steps() const { return steps_; }

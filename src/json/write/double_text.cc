@@ -7,7 +7,6 @@
 #include <array>
 #include <cfloat>
 #include <charconv>
-#include <climits>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -16,8 +15,7 @@
 
 #include "json/contract.h"
 
-// Numbers are loaded and written by the arithmetic of doubles and integers. Where that rounds in another way, they get
-// other digits than on other processors.
+// Numbers have the same digits on every processor only where arithmetic rounds in the same way.
 #ifdef __FAST_MATH__
 #error "-ffast-math rounds in another way, so numbers could be written differently"
 #endif
@@ -25,9 +23,8 @@
 namespace kovalt {
 namespace {
 
-static_assert(std::numeric_limits<double>::is_iec559 && DBL_MANT_DIG == 53, "needs the doubles of IEEE 754");
-static_assert(FLT_EVAL_METHOD == 0, "needs doubles that are calculated with no more digits than they have");
-static_assert(CHAR_BIT == 8 && sizeof(int) == 4 && sizeof(long long) == 8, "needs integers of these sizes");
+static_assert(std::numeric_limits<double>::is_iec559 && sizeof(double) == 8 && FLT_EVAL_METHOD == 0 && sizeof(int) == 4,
+              "needs the doubles of IEEE 754, calculated without extra digits, and int with 32 bits");
 
 /// All powers of ten that a double holds exactly.
 constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,

@@ -71,7 +71,7 @@ constexpr unsigned kCompact = 0;
 constexpr unsigned kFileIndent = 2;
 constexpr unsigned kScreenIndent = 4;
 
-/// Writes the text of `value` to a stream of RapidJSON's kind, indented by so many spaces a level, and flushes it.
+/// Writes the text of `value` to a stream of RapidJSON's kind, indented by `indent` spaces per level, and flushes it.
 template <typename Stream>
 void writeText(const Value& value, unsigned indent, Stream& stream) {
   if (indent == kCompact) {

@@ -9,8 +9,8 @@
 
 namespace kovalt {
 
-/// Returns the JSON text of `value`: without whitespace, or with `pretty` as it is displayed, indented by four spaces a
-/// level. There are only these two forms, hence the plain Boolean. No end of line follows.
+/// Returns the JSON text of `value`: without whitespace, or with `pretty` as it is displayed, indented by four spaces
+/// per level. There are only these two forms, hence the plain Boolean. No end of line follows.
 std::string valueToText(const Value& value, bool pretty);
 
 /// Prints the text of `value` on standard output, indented by four spaces a level, and an end of line.
