@@ -14,16 +14,19 @@ sys.path.append(str(pathlib.Path(__file__).resolve().parent.parent / "faults"))
 from tool_call import NOBODY, TIME_LIMIT, Checks, Outcome, arguments, figure
 
 SCRIPT = pathlib.Path(__file__).resolve().parent.parent.parent / "edit" / "kovalt-edit"
+AS_NOBODY = {"user": NOBODY, "group": NOBODY, "extra_groups": []}
 
 
 class Commands:
-    """Copies of both commands that every user may run, and an empty folder for temporary files, in a folder for the
-    calls. It is removed at the end of a with block."""
+    """Copies of both commands that every user may run, in a folder that is removed at the end of a with block."""
 
     def __init__(self, program):
         self.program = program
 
     def __enter__(self):
+        # A call cannot handle what it finds ignored, as under nohup.
+        for number in (signal.SIGHUP, signal.SIGINT):
+            signal.signal(number, signal.SIG_DFL)
         # Not in TMPDIR, which may be closed to other users.
         self.path = pathlib.Path(tempfile.mkdtemp(prefix="kovalt-edit-test-", dir="/tmp"))
         self.path.chmod(0o755)
@@ -37,11 +40,13 @@ class Commands:
     def __exit__(self, *_):
         shutil.rmtree(self.path)
 
-    def folder(self, name):
-        """A new folder that every user may enter."""
+    def folder(self, name, content=None):
+        """Creates a folder that every user may enter, with f.json if there is a content."""
         folder = self.path / name
         folder.mkdir()
         folder.chmod(0o755)
+        if content is not None:
+            (folder / "f.json").write_bytes(content)
         return folder
 
     def start(self, folder, words, *, before=(), environment=None, **how):
@@ -68,23 +73,12 @@ def outcome_of(call, given=None):
     return Outcome(call.returncode, output or b"", errors or b"")
 
 
-def as_nobody():
-    """How a call of root is one of an ordinary user; anybody else is one already."""
-    return {"user": NOBODY, "group": NOBODY, "extra_groups": []} if os.geteuid() == 0 else {}
-
-
-def attributes(path):
-    """What a file shares with the file that replaces it."""
-    status = path.lstat()
-    return {"mode": stat.filemode(status.st_mode), "owner": (status.st_uid, status.st_gid), "links": status.st_nlink,
-            "extended": {name: os.getxattr(path, name, follow_symlinks=False)
-                         for name in os.listxattr(path, follow_symlinks=False)}}
-
-
 def identity(path):
-    """Everything about a file that a call must not touch. What becomes of a folder shows in its content."""
+    """Everything about a file that a call must not touch. The content of a folder shows in its files."""
     status = path.lstat()
-    identity = {"inode": status.st_ino, **attributes(path)}
+    identity = {"inode": status.st_ino, "mode": stat.filemode(status.st_mode), "owner": (status.st_uid, status.st_gid),
+                "links": status.st_nlink, "extended": {name: os.getxattr(path, name, follow_symlinks=False)
+                                                       for name in os.listxattr(path, follow_symlinks=False)}}
     if stat.S_ISREG(status.st_mode):
         identity["modified"] = status.st_mtime_ns
         identity["content"] = path.read_bytes() if os.access(path, os.R_OK) else None
