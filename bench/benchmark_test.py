@@ -8,6 +8,7 @@ import unittest
 from pathlib import Path
 from xml.etree import ElementTree
 
+import charts
 import large_files
 import options
 import report
@@ -109,6 +110,29 @@ class Judgement(unittest.TestCase):
             self.assertLess(sum(len(argument) + 1 + 8 for argument in arguments), 2_000_000, work.title)
 
 
+class Colours(unittest.TestCase):
+    @staticmethod
+    def luminance(colour):
+        """As WCAG 2 defines it."""
+        parts = [int(colour[i:i + 2], 16) / 255 for i in (1, 3, 5)]
+        red, green, blue = [part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4 for part in parts]
+        return 0.2126 * red + 0.7152 * green + 0.0722 * blue
+
+    def contrast(self, one, other):
+        darker, lighter = sorted((self.luminance(one), self.luminance(other)))
+        return (lighter + 0.05) / (darker + 0.05)
+
+    def test_the_contrast_is_that_of_wcag(self):
+        self.assertAlmostEqual(21, self.contrast("#ffffff", "#000000"))
+        self.assertAlmostEqual(4.54, self.contrast("#ffffff", "#767676"), 2)
+
+    def test_each_colour_can_be_read_on_both_pages(self):
+        for colour in (charts.INK, charts.TOOL, *charts.OTHERS):
+            self.assertGreaterEqual(self.contrast(colour, charts.PAGE), 4.5, colour)
+            dark = charts.ON_DARK[colour]
+            self.assertGreaterEqual(self.contrast(dark, charts.ON_DARK[charts.PAGE]), 4.5, dark)
+
+
 class QuickRun(unittest.TestCase):
     def test_all_parts_leave_results_a_page_and_charts(self):
         run = subprocess.run([sys.executable, SCRIPTS / "run.py", BUILD, BUILD / "unused", "--quick"],
@@ -137,10 +161,11 @@ class QuickRun(unittest.TestCase):
         text = page.read_text(encoding="utf-8")
         for bound in data["bounds"]:
             self.assertIn(f"## {bound['group']}", text)
-        charts = sorted(results.glob("*.svg"))
-        self.assertEqual(4, len(charts))
-        for chart in charts:
+        drawn = sorted(results.glob("*.svg"))
+        self.assertEqual(4, len(drawn))
+        for chart in drawn:
             self.assertIn(f"]({chart.name})", text)
+            self.assertNotIn("rgb(", chart.read_text(encoding="utf-8"), "a colour without its dark form")
             words = "".join(ElementTree.parse(chart).getroot().itertext())
             self.assertIn("file" if "option" not in chart.name else "options in the call", words)
 

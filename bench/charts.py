@@ -1,8 +1,8 @@
-"""Draws the charts from the results of a run, as SVG that can be read on light and dark pages.
+"""Draws the charts of a run as SVG, dark on white, or light on black for readers who prefer that.
 
     python3 bench/charts.py bench/results/VERSION.json
 
-leaves them beside that file.
+writes them beside that file.
 """
 
 import json
@@ -16,15 +16,18 @@ import large_files
 import options
 import start_up
 
-#: Each is light enough for a dark page and dark enough for a light one.
-INK = "#7d8590"
-TOOL = "#e8590c"
-OTHERS = ("#3b82f6", "#12a594", "#a855f7", "#ca8a04", "#db2777", "#6b8e23")
-#: How the names begin of what is drawn of the comparisons of large files.
+PAGE = "#ffffff"
+INK = "#57606a"
+TOOL = "#bc4c00"
+OTHERS = ("#0969da", "#0f766e", "#8250df", "#8a5d00", "#bf3989", "#4d7c0f")
+#: What each colour becomes on a dark page. A test checks that all contrasts with the page are at least 4.5 to 1.
+ON_DARK = {PAGE: "#0d1117", INK: "#9198a1", TOOL: "#ff8c42"} | dict(
+    zip(OTHERS, ("#58a6ff", "#2dd4bf", "#bc8cff", "#e3b341", "#f778ba", "#a3c557")))
+#: The programs in the charts of large files, by the beginning of their names.
 DRAWN = ("Kovalt", "bare parse", "jj", "jq")
 
 SETTINGS = """
-set terminal svg size {width},{height} font "sans-serif,13" linewidth 1
+set terminal svg size {width},{height} font "sans-serif,13" linewidth 1 background rgb "{page}"
 set border 3 linecolor rgb "{ink}"
 set tics textcolor rgb "{ink}" nomirror
 set xlabel textcolor rgb "{ink}"
@@ -36,7 +39,7 @@ set grid {grid} linecolor rgb "{ink}" linewidth 0.3
 
 
 def settings(title, grid, width=640, height=340):
-    return SETTINGS.format(title=title, grid=grid, width=width, height=height, ink=INK)
+    return SETTINGS.format(title=title, grid=grid, width=width, height=height, ink=INK, page=PAGE)
 
 
 def quoted(text):
@@ -56,8 +59,8 @@ def power_of_ten_below(value):
     return 10 ** math.floor(math.log10(value))
 
 
-def start_up_bars(data):
-    """Bars of milliseconds, the fastest at the top; nothing where it was not measured."""
+def start_up_dots(data):
+    """A dot for each program at its milliseconds, the fastest at the top. None if this was not measured."""
     found = [comparison for comparison in comparisons(data, start_up.GROUP) if comparison["work"] == start_up.READ_WORK]
     if not found:
         return None
@@ -70,7 +73,7 @@ def start_up_bars(data):
     names = ", ".join(f"{quoted(row['program'])} {position}" for position, row in enumerate(rows))
     left = power_of_ten_below(rows[-1]["seconds"] * 1000)
     return (settings("Start-up: " + start_up.READ_WORK, "xtics", height=90 + 26 * len(rows)) + f"""
-$bars << END
+$dots << END
 {chr(10).join(lines)}
 END
 set logscale x
@@ -79,15 +82,14 @@ set format x "%g"
 set yrange [-0.6:{len(rows) - 0.4}]
 set ytics ({names}) scale 0
 set xlabel "milliseconds (log scale)"
-set style fill solid noborder
 unset key
-plot $bars using 2:1:({left}):2:($1-0.36):($1+0.36):3 with boxxyerror linecolor rgb variable, \\
-     $bars using 2:1:4 with labels left offset 0.6,0 textcolor rgb "{INK}"
+plot $dots using 2:1:3 with points pointtype 7 pointsize 0.9 linecolor rgb variable, \\
+     $dots using 2:1:4 with labels left offset 1,0 textcolor rgb "{INK}"
 """)
 
 
 def lines_of(series):
-    """Data blocks and the plot command of lines with points; `series` has a name, a colour and points each."""
+    """Returns data blocks and the command that plots them. Each series has a name, a colour and points."""
     blocks, plots = [], []
     for position, (name, colour, points) in enumerate(series):
         text = "\n".join(f"{x} {y}" for x, y in points)
@@ -98,18 +100,18 @@ def lines_of(series):
 
 
 def reading_lines(data, figure, title, unit, scale):
-    """The time or the memory of reading one key of files of compact records, over their sizes."""
+    """The time or the memory of reading one key, over the sizes of files of compact records."""
     points = {}
     for comparison in comparisons(data, large_files.READ):
         if large_files.KINDS["records"] in comparison["work"]:
             for row in comparison["rows"]:
                 if row["program"].startswith(DRAWN):
                     points.setdefault(row["program"], []).append((comparison["file_bytes"] / 1e6, row[figure] / scale))
-    # Those that were measured at the first size only have no line.
+    # A program that was measured at one size only has no line.
     points = {name: line for name, line in points.items() if len(line) > 1}
     if not points:
         return None
-    # In the order of the ends of the lines, from above.
+    # The key lists the lines in the order of their right ends.
     names = sorted(points, key=lambda name: -points[name][-1][1])
     # By name, so that a program has the same colour in each chart.
     colours = {"Kovalt": TOOL} | dict(zip(sorted(set(names) - {"Kovalt"}), OTHERS))
@@ -149,11 +151,23 @@ set key outside right center reverse Left
 {plot}"""
 
 
-def draw(data, folder):
-    """Writes the charts into the folder; gives their titles by file name."""
-    version = data["version"]
+def hexadecimal(match):
+    return "#" + "".join(f"{int(part):02x}" for part in match.groups())
+
+
+def with_dark_colours(picture):
+    """Adds the colours for readers who prefer a dark page. Their selectors need one spelling of each colour."""
+    picture = re.sub(r"rgb\( *(\d+), *(\d+), *(\d+)\)", hexadecimal, picture)
+    rules = [f'[{attribute}="{light}"] {{ {attribute}: {dark} }}' for light, dark in ON_DARK.items()
+             for attribute in ("fill", "stroke", "color")]
+    style = "<style>\n@media (prefers-color-scheme: dark) {\n" + "\n".join(rules) + "\n}\n</style>\n"
+    return picture.replace("</title>\n", "</title>\n" + style, 1)
+
+
+def draw(data, results):
+    """Writes the charts beside the file of results. Returns their titles by file name."""
     charts = {
-        "start-up": ("Start-up", start_up_bars(data)),
+        "start-up": ("Start-up", start_up_dots(data)),
         "reading-time": ("Time of reading one key",
                          reading_lines(data, "seconds", "Reading one key at the end of a file", "seconds", 1)),
         "reading-memory": ("Memory of reading one key",
@@ -164,14 +178,14 @@ def draw(data, folder):
     for name, (title, script) in charts.items():
         if script is not None:
             picture = subprocess.run(["gnuplot"], input=script.encode(), stdout=subprocess.PIPE, check=True).stdout
-            # The title of the file is shown where the pointer rests on it.
+            # Browsers show the title as a tooltip.
             picture = re.sub("<title>Gnuplot</title>\n<desc>.*</desc>", f"<title>{title}</title>", picture.decode())
-            file = f"{version}-{name}.svg"
-            (folder / file).write_text(picture, encoding="utf-8")
+            file = f"{results.stem}-{name}.svg"
+            results.with_name(file).write_text(with_dark_colours(picture), encoding="utf-8")
             drawn[file] = title
     return drawn
 
 
 if __name__ == "__main__":
-    results = Path(sys.argv[1])
-    draw(json.loads(results.read_text(encoding="utf-8")), results.parent)
+    path = Path(sys.argv[1])
+    draw(json.loads(path.read_text(encoding="utf-8")), path)

@@ -1,8 +1,8 @@
-"""Writes the figures of the front page from the results of a run, between the two comments that mark their place.
+"""Writes figures from the results of a run into the front page, between two comments.
 
     python3 bench/front_page.py bench/results/VERSION.json README.md [--check]
 
-With --check it changes nothing, and fails where the page shows anything else.
+With --check, changes nothing, and fails if the page shows other figures.
 """
 
 import json
@@ -16,30 +16,33 @@ from report import figure, memory_text, table, time_text
 
 BEGIN = "<!-- The figures come from bench/front_page.py. -->\n"
 END = "<!-- End of the figures. -->\n"
-#: What is shown: the group and the work, what it is called here, and whether memory matters.
-SHOWN = (
+#: The rows: the group and the work, the title on the front page, and whether memory is shown.
+ROWS = (
     (start_up.GROUP, start_up.READ_WORK, "Read one key of 20 lines", False),
-    (start_up.GROUP, "edit a 20-line file", "Edit a file of 20 lines", False),
     (start_up.GROUP, "ten edits and five reads", "Ten edits and five reads", False),
     (many_files.GROUP, many_files.WORK, "Edit 1,000 files, four at a time", False),
     (large_files.READ, large_files.title("records", 50), "Read the last key of 50 MB", True),
-    (large_files.READ, large_files.title("records", 200), "Read the last key of 200 MB", True),
-    (large_files.EDIT, large_files.title("records", 50), "Edit a file of 50 MB", False),
+    (large_files.EDIT, large_files.title("records", 50), "Edit one value of 50 MB", True),
 )
 
 
-def cell(row):
-    """The time of a program, and how it compares."""
+def compared(text, ratio, ahead):
+    return f"{text} ({figure(ratio)} x{', **ahead**' if ahead else ''})"
+
+
+def cell(row, with_memory):
+    """The time of a program, perhaps its memory, and how they compare with Kovalt's."""
     if row is None:
         return "-"
+    time, memory = time_text(row["seconds"]), memory_text(row["memory"])
     if "times" not in row:
-        return f"**{time_text(row['seconds'])}**"
-    ahead = ", **ahead**" if row["ahead"] else ""
-    return f"{time_text(row['seconds'])}, {figure(row['times'])} x{ahead}"
+        return f"**{time}**" + (f", {memory}" if with_memory else "")
+    text = compared(time, row["times"], row["ahead"])
+    return text + (", " + compared(memory, row["memory_times"], row["ahead_in_memory"]) if with_memory else "")
 
 
 def find(rows, program):
-    """The row of a program, which may be called with a remark after a comma."""
+    """The row of a program. A remark may follow the name after a comma."""
     return next((row for row in rows if row["program"].split(",")[0] == program), None)
 
 
@@ -47,14 +50,12 @@ def figures(data):
     comparisons = {(one["group"], one["work"]): one["rows"] for one in data["comparisons"]}
     programs = ["Kovalt"] + [peer for peer in data["peers"] if peer.split()[0] in ("jj", "jq")]
     rows = []
-    for group, work, title, with_memory in SHOWN:
+    for group, work, title, with_memory in ROWS:
         measured = [find(comparisons[group, work], program) for program in programs]
-        rows.append([title, *(cell(row) for row in measured)])
-        if with_memory:
-            rows.append(["... and its memory", *(memory_text(row["memory"]) if row else "-" for row in measured)])
+        rows.append([title, *(cell(row, with_memory) for row in measured)])
     machine = data["machine"]
-    origin = (f"Version {data['version']}, commit {data['commit']}, {data['date']}, {machine['processor']}, "
-              f"{machine['processors']} processors; times are medians, \"x\" says how many times Kovalt's.")
+    origin = (f"Kovalt {data['version']}, commit {data['commit']}, {data['date']}; {machine['processor']}, "
+              f"{machine['processors']} processors.\nTimes are medians, memory is the peak; \"x\" is times Kovalt's.")
     return table(["", *programs], rows) + "\n\n" + origin + "\n"
 
 

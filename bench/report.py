@@ -1,28 +1,29 @@
-"""Writes the results of a run as Markdown, for reading.
+"""Writes the charts and the page of a run.
 
     python3 bench/report.py bench/results/VERSION.json
 
-leaves it beside that file.
+writes them beside that file.
 """
 
 import json
 import sys
 from pathlib import Path
 
+import charts
+
 TERMS = """\
-- **Times Kovalt's**: what a program takes, divided by what Kovalt takes for the same. In every comparison more is
-  better for Kovalt. A program that does the same with less is marked as **ahead**.
-- **Bare parse**: the least program around RapidJSON, which Kovalt uses too, with RapidJSON's own stream and the same
-  buffer: it parses the file into a document and ends. **Bare parse and write** saves the document too, indented. **The
-  plain way** prints it by way of RapidJSON's own string buffer. They, `cat` and a program that returns 0 are measures,
-  not peers.
-- **Memory**: the peak of the process's resident memory. **MB**: a million bytes.
-- **Exponent**: the power of the size with which a cost grows; 1 is in proportion, 2 is quadratic. In instructions it is
-  taken between the first two sizes, in time of the processor between the last two.
-- **Instructions**: of user code, counted by callgrind in an empty environment; they repeat exactly.
-- Times are medians, taken in turns; a ratio is the median of the ratios of the rounds. All answers were compared before
-  anything was timed, but for those of `cat` and, on files of 5 MB, of gron and yq.
-- **Held** and **missed** say whether a bound was kept that the tool is held to."""
+- **Times Kovalt's**: the time or the memory of a program divided by that of Kovalt for the same work. Above 1, Kovalt
+  needs less. A program that needs less than Kovalt is marked **ahead**.
+- **Bare parse**: a minimal program that parses the file with RapidJSON, the library that Kovalt uses, and exits. **Bare
+  parse and write** also saves the document, indented. **The plain way** prints it through RapidJSON's string buffer.
+  These, `cat`, and a program that only returns 0 are yardsticks, not competitors.
+- **Memory**: the peak resident memory of the process. **MB**: a million bytes.
+- **Exponent**: how a cost grows with the size of the input; 1 is linear, 2 is quadratic. Instructions are compared
+  between the first two sizes, processor time between the last two.
+- **Instructions**: executed in user mode, counted by callgrind in an empty environment. The counts are repeatable.
+- **Times** are medians of several rounds, in which the programs take turns. A ratio is the median of the ratios of the
+  rounds. All answers are compared before anything is timed, except those of `cat`, and of gron and yq on files of 5 MB.
+- **Held** and **missed**: whether Kovalt stays within a limit that it has to meet."""
 
 
 def time_text(seconds):
@@ -38,7 +39,7 @@ def figure(value):
 
 
 def limit_text(bound):
-    """A bound on one line: the limit, and whether it was kept."""
+    """The limit of a bound, and whether it was held."""
     if "at_least" in bound:
         limit = f"at least {bound['at_least']:.2f}"
     elif "memory" in bound["what"]:
@@ -93,13 +94,13 @@ def growth_table(growth, bounds):
 def summary(data):
     bounds = data["bounds"]
     missed = [bound for bound in bounds if not bound["held"]]
-    lines = [f"Bounds that the tool is held to: {len(bounds)}, missed: {len(missed)}{':' if missed else '.'}"]
+    lines = [f"Limits that Kovalt has to meet: {len(bounds)}, missed: {len(missed)}{':' if missed else '.'}"]
     lines += ["", *[f"- {bound_text(bound)}" for bound in missed]] if missed else []
     ahead = [f"- {row['program']}: {comparison['group'].lower()}, {comparison['work']}: {figure(row[times])} times "
              f"Kovalt's {what}" for comparison in data["comparisons"] for row in comparison["rows"]
              for mark, times, what in (("ahead", "times", "time"), ("ahead_in_memory", "memory_times", "memory"))
              if row.get(mark)]
-    lines += ["", "Programs ahead of Kovalt:", "", *(ahead or ["- no program in any row"])]
+    lines += ["", "Programs ahead of Kovalt:", "", *(ahead or ["- none"])]
     return "\n".join(lines)
 
 
@@ -107,26 +108,26 @@ def origin(data):
     machine = data["machine"]
     rows = [
         ["Commit", f"{data['commit']}, version {data['version']}"],
-        ["Date", f"{data['date']}, a run of {data['minutes']} minutes"],
+        ["Date", f"{data['date']}, {data['minutes']} minutes"],
         ["Machine", f"{machine['processor']}, {machine['processors']} processors, {machine['memory'] / 1e9:.0f} GB"],
-        ["System", f"{machine['system']}, files in {machine['files_in']}, load {machine['load_at_start']} at the start "
-                   f"and {machine['load_at_end']} at the end"],
+        ["System", f"{machine['system']}, files in {machine['files_in']}, load {machine['load_at_start']} before "
+                   f"and {machine['load_at_end']} after the run"],
         ["Compared with", ", ".join(data["peers"]) or "-"],
-        ["Packages of Debian", ", ".join(f"{name} {version}" for name, version in data["packages"].items())],
+        ["Debian packages", ", ".join(f"{name} {version}" for name, version in data["packages"].items())],
     ]
     return table(["Measured", ""], rows)
 
 
-def markdown(data, charts):
-    """The page; `charts` has the titles of the pictures by file name."""
+def markdown(data, file, pictures):
+    """The page; `file` is the name of the results, and `pictures` has the titles of the charts by file name."""
     title = f"# Speed and memory of {data['tool']} {data['version']}"
     parts = [title]
     if data["quick"]:
-        parts.append("**A quick run, of tiny files and few rounds: it shows that the benchmark works and no more.** "
-                     "The files have a hundredth of the sizes that their titles say.")
-    parts += [f"Made by `scripts/bench`. The same figures as data: [{data['version']}.json]({data['version']}.json).",
+        parts.append("**This was a quick run with tiny files and few rounds. It only shows that the benchmark works.** "
+                     "The files have a hundredth of the sizes in their titles.")
+    parts += [f"`scripts/bench` wrote this page. The same figures as data: [{file}]({file}).",
               origin(data), "## In short", summary(data), "## Terms", TERMS]
-    parts += [f"![{text}]({file})" for file, text in charts.items()]
+    parts += [f"![{text}]({picture})" for picture, text in pictures.items()]
     growth_groups = {row["group"] for row in data["growth"]}
     compared_groups = {comparison["group"] for comparison in data["comparisons"]}
     measured_groups = [row["group"] for rows in ("comparisons", "growth", "bounds") for row in data[rows]]
@@ -145,10 +146,12 @@ def markdown(data, charts):
     return "\n\n".join(parts) + "\n"
 
 
-if __name__ == "__main__":
-    import charts
+def write(data, results):
+    """Writes the charts and the page beside the file of results."""
+    pictures = charts.draw(data, results)
+    results.with_suffix(".md").write_text(markdown(data, results.name, pictures), encoding="utf-8")
 
-    results = Path(sys.argv[1])
-    measured = json.loads(results.read_text(encoding="utf-8"))
-    pictures = charts.draw(measured, results.parent)
-    results.with_suffix(".md").write_text(markdown(measured, pictures), encoding="utf-8")
+
+if __name__ == "__main__":
+    path = Path(sys.argv[1])
+    write(json.loads(path.read_text(encoding="utf-8")), path)

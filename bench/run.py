@@ -20,7 +20,6 @@ import tempfile
 import time
 from pathlib import Path
 
-import charts
 import growth
 import large_files
 import many_files
@@ -104,14 +103,14 @@ def main():
         "machine": machine() | {"load_at_start": round(load, 1), "load_at_end": round(os.getloadavg()[0], 1)},
         "packages": installed_versions(), "peers": [*peers.jq, *peers.jj],
     } | record.as_data()
-    (results / f"{version}.json").write_text(json.dumps(data, indent=1) + "\n", encoding="utf-8")
-    drawn = charts.draw(data, results)
-    (results / f"{version}.md").write_text(report.markdown(data, drawn), encoding="utf-8")
+    path = results / f"{version}.json"
+    path.write_text(json.dumps(data, indent=1) + "\n", encoding="utf-8")
+    report.write(data, path)
     missed = [bound for bound in data["bounds"] if not bound["held"]]
     print(f"\n{len(data['bounds'])} bounds, missed: {len(missed)}")
     for bound in missed:
         print(f"- {report.bound_text(bound)}")
-    print(f"{results}/{version}.md, in {data['minutes']} minutes")
+    print(f"{path.with_suffix('.md')}, in {data['minutes']} minutes")
 
 
 if __name__ == "__main__":
