@@ -26,19 +26,17 @@ ROWS = (
 )
 
 
-def compared(text, ratio, ahead):
-    return f"{text} ({figure(ratio)} x{', **ahead**' if ahead else ''})"
-
-
 def cell(row, with_memory):
-    """The time of a program, perhaps its memory, and how they compare with Kovalt's."""
+    """The time of a program, times Kovalt's, and perhaps its memory."""
     if row is None:
         return "-"
     time, memory = time_text(row["seconds"]), memory_text(row["memory"])
     if "times" not in row:
         return f"**{time}**" + (f", {memory}" if with_memory else "")
-    text = compared(time, row["times"], row["ahead"])
-    return text + (", " + compared(memory, row["memory_times"], row["ahead_in_memory"]) if with_memory else "")
+    text = f"{time} ({figure(row['times'])} x{', **ahead**' if row['ahead'] else ''})"
+    if with_memory:
+        text += f", {memory}" + (" (**ahead**)" if row["ahead_in_memory"] else "")
+    return text
 
 
 def find(rows, program):

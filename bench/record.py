@@ -1,4 +1,4 @@
-"""Keeps what was measured, judges it by its bounds, and holds it as plain data that JSON can take."""
+"""Collects the figures of a run as plain data, and checks them against their bounds."""
 
 import statistics
 
@@ -6,15 +6,16 @@ from measuring import Call, exponent
 
 
 def rounded(value):
-    """Four significant digits, for a figure that was measured."""
+    """Rounds a measured figure to four significant digits."""
     return float(f"{value:.4g}")
 
 
 class Record:
     """The figures of a run, in groups.
 
-    A comparison has one row a program, the tool's first; `times` and `memory_times` are times the tool's, so that more
-    is better for the tool. A growth is the tool's over sizes. A bound is judged: `held` says how.
+    A comparison has a row for each program, with the tool in the first. `times` and `memory_times` are multiples of the
+    tool's figures, so above 1 the tool is better. A growth has the tool's figures for several sizes. `held` says
+    whether a bound is kept.
     """
 
     def __init__(self, measuring):
@@ -33,7 +34,7 @@ class Record:
         return bound
 
     def compare(self, group, work, calls, rounds=21, runs=1, patience=2.5, size=None, memory_at_most=None):
-        """Measures the first call, which is the tool's, beside the others."""
+        """Measures calls in turns. The first one is the tool's."""
         samples = self.measuring.in_turns(calls, rounds, runs, patience)
         tool = samples[0]
         rows = []
@@ -63,8 +64,8 @@ class Record:
             + (f" ({row['times']:.2f} times)" if "times" in row else "") for row in rows), flush=True)
 
     def grow(self, group, work, sizes, command_of, rounds=11, patience=2.5):
-        """Measures the tool at three sizes: the exponent in instructions between the first two, in time between the
-        last two. Where a call is too slow for its instructions to be counted, the time takes their place."""
+        """Measures the tool at three sizes. The exponent is that of the instructions between the first two, and that of
+        the time between the last two. If a call is too slow to count its instructions, its time replaces them."""
         measuring = self.measuring
         calls = [Call("Kovalt", command_of(size)) for size in sizes]
         small, middle, large = sizes
