@@ -1,34 +1,34 @@
 #pragma once
 
-// The words that are offered to a shell.
+// The candidates that a shell shows.
 
 #include <cstddef>
+#include <set>
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 namespace kovalt {
 
-/// Collects words, each once, in the order in which they come. No one reads thousands of them and no shell takes them
-/// in without a pause, so a long list is cut; two of the words left out are kept then, so that what all the words begin
-/// with, which the shell inserts, stays the same.
+/// Collects distinct words in the order of their arrival. A shell is slow with thousands of candidates and nobody reads
+/// them, so a longer list is cut. The least and the greatest of the dropped words are kept, so that the cut list has
+/// the same common prefix, which the shell inserts.
 class CandidateList {
  public:
-  /// The number of words from which on the list is cut.
+  /// The longest list that is not cut.
   static constexpr std::size_t kLongest = 500;
 
   void add(const std::string& word);
 
   [[nodiscard]] bool isCut() const { return cut_; }
 
-  /// The words, at most two more than the longest list.
+  /// The words, at most `kLongest` and the two dropped ones.
   [[nodiscard]] std::vector<std::string> words() const;
 
  private:
   std::vector<std::string> words_;
-  std::unordered_set<std::string> known_;
+  std::set<std::string> known_;  ///< The same words. Ordered: the names come from a file that may be hostile.
   bool cut_ = false;
-  std::string least_;  ///< Of the words left out.
+  std::string least_;  ///< Of the dropped words.
   std::string greatest_;
 };
 

@@ -5,8 +5,8 @@
 namespace kovalt {
 namespace {
 
-/// The position after the arguments of the option at `position`. An empty word ends a list, but not at the cursor,
-/// where it is about to be typed.
+/// Returns the position after the arguments of the option at `position`. An empty word ends a list, except at the
+/// cursor, where the user is about to type it.
 std::size_t argumentsEnd(const FurtherArguments& further, const std::vector<std::string>& words, std::size_t position,
                          std::size_t cursor) {
   std::size_t end = position + 2;

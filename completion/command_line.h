@@ -1,6 +1,6 @@
 #pragma once
 
-// What stands where on a command line that is still being typed.
+// The role of the word at the cursor of an unfinished command line.
 
 #include <cstddef>
 #include <string>
@@ -11,18 +11,18 @@
 
 namespace kovalt {
 
-/// The word at the cursor, and what the rest of the line means for it. The views look into the words of the line.
+/// The role of the word at the cursor, and what the rest of the line says about it. The views refer to the words of the
+/// line.
 struct CursorPlace {
-  const Option* option = nullptr;  ///< The option that the word is an argument of; nullptr where it is an option.
+  const Option* option = nullptr;  ///< The option whose argument the word is; nullptr if the word is an option itself.
   ArgumentKind argument = ArgumentKind::none;
-  bool inList = false;        ///< The word may begin the next option as well.
+  bool inList = false;        ///< The word may also begin the next option.
   std::string_view keyPath;   ///< The first argument of `option`.
-  std::string_view filePath;  ///< The file to work on, wherever the line names it; empty for none.
+  std::string_view filePath;  ///< The work file, before or after the cursor; empty if none is named.
   bool fileOptionGiven = false;
 };
 
-/// Finds out about the word at `cursor`. The line is read as the parser does, but words that are not understood are
-/// passed over.
+/// Determines the role of the word at `cursor`. Reads the line as the parser does, but skips unknown words.
 CursorPlace findCursorPlace(const std::vector<std::string>& words, std::size_t cursor);
 
 }  // namespace kovalt

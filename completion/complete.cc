@@ -42,7 +42,7 @@ std::vector<std::string> booleanLines(std::string_view typed) {
   return lines;
 }
 
-/// The key paths out of the file of the line. Only a regular file is read: from a pipe the shell would wait for ever.
+/// Returns the key paths of the file that the line names. Reads only regular files: a pipe could block the shell.
 CandidateList keyPathList(const CursorPlace& place, std::string_view typed) {
   const std::string path(place.filePath);
   std::error_code unknown;

@@ -8,16 +8,16 @@
 
 namespace kovalt {
 
-/// What can stand at the cursor.
+/// The candidates for the word at the cursor.
 struct Completion {
-  bool takesFile = false;          ///< A file name, which the shell itself knows best how to complete.
-  bool isCut = false;              ///< There are more candidates than these.
-  std::vector<std::string> lines;  ///< The candidates; after an option stand a tab and what it does.
+  bool takesFile = false;          ///< The word is a file name, which the shell completes itself.
+  bool isCut = false;              ///< There are more candidates than `lines`.
+  std::vector<std::string> lines;  ///< The candidates. An option is followed by a tab and its description.
 };
 
-/// What can stand in place of the word at `cursor`, which is typed up to there. The words are those of the command
-/// line, without the shell's quoting, and with the program's own name as the first. The file that they name is read
-/// where a key path is wanted; what is wrong with it is reported on standard error.
+/// Completes `words[cursor]`, which ends at the cursor. `words` is the command line without the shell's quoting; its
+/// first word is the program. For a key path, reads the file that the line names, and reports problems with it on
+/// standard error.
 Completion complete(const std::vector<std::string>& words, std::size_t cursor);
 
 }  // namespace kovalt

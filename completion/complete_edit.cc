@@ -26,7 +26,7 @@ Completion completeEdit(std::vector<std::string> words, std::size_t cursor) {
   if (cursor == 1 && startsWith(words[cursor], "-")) {
     return ownOptions(words[cursor]);
   }
-  // The line of Kovalt that does the same.
+  // Rewrites the line as the equivalent line of Kovalt.
   if (cursor > 1 && words[1] == kCreate) {
     words[1] = "--file";
   } else {

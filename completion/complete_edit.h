@@ -11,11 +11,10 @@
 
 namespace kovalt {
 
-/// Whether a command, with or without its folder, is kovalt-edit.
+/// Whether `command`, a name or a path, is kovalt-edit.
 bool isEditCommand(std::string_view command);
 
-/// What can stand in place of the word at `cursor`, which is not 0, in a line of kovalt-edit. After the file it accepts
-/// the options of Kovalt. The file is read as complete() reads it.
+/// Completes `words[cursor]` of a command line of kovalt-edit, as `complete` does for Kovalt. `cursor` must not be 0.
 Completion completeEdit(std::vector<std::string> words, std::size_t cursor);
 
 }  // namespace kovalt

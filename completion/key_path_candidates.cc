@@ -1,5 +1,6 @@
 #include "completion/key_path_candidates.h"
 
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -16,10 +17,10 @@ namespace {
 
 using Values = std::vector<const Value*>;
 
-/// What is offered of the objects of an array.
+/// Whether the objects of an array are offered as whole selections, or only as the keys to select by.
 enum class Selections { whole, keys };
 
-/// Collects the steps that go on from values of a document and begin with what is typed.
+/// Collects the steps that continue from values of a document and begin with the typed text.
 class StepCollector {
  public:
   StepCollector(std::string_view way, std::string_view typed, KeyPathUse use) : way_(way), typed_(typed), use_(use) {}
@@ -32,7 +33,7 @@ class StepCollector {
     }
   }
 
-  /// Whether there are so many candidates that the key of a selection is better chosen first.
+  /// Whether there are so many candidates that the user should choose the key of the selection first.
   [[nodiscard]] bool isBetterWithKeys() const {
     return candidates_.isCut() && typed_.find('=') == std::string_view::npos;
   }
@@ -92,12 +93,11 @@ class StepCollector {
 };
 
 Values follow(const Values& values, std::string_view step, KeyPathUse use) {
-  const std::size_t equals = use.selects ? step.find('=') : std::string_view::npos;
+  const std::optional<SelectionStep> selection = use.selects ? asSelectionStep(step) : std::nullopt;
   Values reached;
   for (const Value* value : values) {
-    const Value* next = equals == std::string_view::npos
-                            ? findMember(*value, step)
-                            : findObjectByRef(value, step.substr(0, equals), step.substr(equals + 1));
+    const Value* next =
+        selection ? findObjectByRef(value, selection->refKey, selection->refValue) : findMember(*value, step);
     if (next != nullptr) {
       reached.push_back(next);
     }

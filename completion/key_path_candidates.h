@@ -1,6 +1,7 @@
 #pragma once
 
-// The key paths that a document has to offer.
+// The candidates for a key path, from a document. key_path_projection.h says which parts of the document this reads:
+// whoever changes one must change the other.
 
 #include <string_view>
 #include <vector>
@@ -11,15 +12,15 @@
 
 namespace kovalt {
 
-/// The ways to go on from the key path `word`, walked from any of `roots`, by one step. A candidate is the whole path;
-/// one that can go on itself ends in ".". Of an array with very many objects only the keys to select by are offered,
-/// and such a candidate ends in "=".
+/// Completes the last step of the key path `word`, walked from each of `roots`. A candidate is the whole path. It ends
+/// in "." if more steps can follow. For an array with too many objects to list, the candidates are the keys to select
+/// by, and end in "=".
 ///
-/// Not offered: what no key path reaches (names and values that hold a ".", an object after one that the selection
-/// stops at, a second member of the same name), empty names, and names and values that a terminal cannot show.
+/// Not offered: members and elements that no key path reaches (a "." in the name or value, an element after one that
+/// stops the selection, a second member of the same name), empty names, and text that a terminal cannot show.
 CandidateList keyPathCandidates(const std::vector<const Value*>& roots, std::string_view word, KeyPathUse use);
 
-/// The elements of the array that `keyPath` names; none where it names no array.
+/// Returns the elements of the array that `keyPath` names, or nothing if it does not name an array.
 std::vector<const Value*> arrayElements(const Value& root, std::string_view keyPath);
 
 }  // namespace kovalt

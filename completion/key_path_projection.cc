@@ -1,5 +1,7 @@
 #include "completion/key_path_projection.h"
 
+#include <optional>
+
 #include "completion/starts_with.h"
 #include "json/path/key_path.h"
 
@@ -8,17 +10,11 @@ namespace {
 
 using Place = Projection::Place;
 
-/// Adds what tells by which values the members at `member` select.
-void addSelecting(Projection& projection, Place member) {
-  projection.addScalar(member);
-  projection.addScalar(projection.addElements(member));
-}
-
-/// Adds what tells whether any step goes on from a value at `place`.
+/// Adds what `canGoOn` reads of a value at `place`.
 void addGoingOn(Projection& projection, Place place, KeyPathUse use) {
   projection.addMembers(place, "");
   if (use.selects) {
-    addSelecting(projection, projection.addMembers(projection.addElements(place), ""));
+    projection.addSelecting(projection.addMembers(projection.addElements(place), ""));
   }
 }
 
@@ -28,26 +24,23 @@ void addCandidates(Projection& projection, Place from, std::string_view word, Ke
   const KeyPath path(word);
   const std::string_view typed = word.substr(word.rfind(KeyPath::kStepSeparator) + 1);
   Place place = from;
-  std::string_view selectedBy;
-  bool isSelected = false;
+  std::optional<SelectionStep> selection;
   for (std::size_t i = 0; i + 1 < path.steps().size(); ++i) {
     const std::string_view step = path.steps()[i];
-    const std::size_t equals = step.find('=');
-    isSelected = use.selects && equals != std::string_view::npos;
-    selectedBy = step.substr(0, equals);
+    selection = use.selects ? asSelectionStep(step) : std::nullopt;
     place = use.selects ? projection.addStep(step, place) : projection.addMember(place, step);
   }
 
   addGoingOn(projection, projection.addMembers(place, typed), use);
-  if (isSelected && startsWith(selectedBy, typed)) {
-    addGoingOn(projection, projection.addMember(place, selectedBy), use);
+  // The selection added its key by name, so that member is not among those above.
+  if (selection && startsWith(selection->refKey, typed)) {
+    addGoingOn(projection, projection.addMember(place, selection->refKey), use);
   }
   if (use.selects) {
     const Place elements = projection.addElements(place);
-    const std::size_t equals = typed.find('=');
-    addSelecting(projection, equals == std::string_view::npos
-                                 ? projection.addMembers(elements, typed)
-                                 : projection.addMember(elements, typed.substr(0, equals)));
+    const std::optional<SelectionStep> typedSelection = asSelectionStep(typed);
+    projection.addSelecting(typedSelection ? projection.addMember(elements, typedSelection->refKey)
+                                           : projection.addMembers(elements, typed));
   }
 }
 

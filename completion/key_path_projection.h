@@ -1,6 +1,7 @@
 #pragma once
 
-// How little of a document its candidates for a key path need.
+// The parts of a document that its candidates for a key path depend on, so that a completion loads nothing else.
+// Mirrors key_path_candidates.h: whoever changes one must change the other.
 
 #include <string_view>
 
@@ -9,8 +10,8 @@
 
 namespace kovalt {
 
-/// Adds to `projection` what `keyPathCandidates` looks at for `word` and values at `from`: the way to the last step,
-/// and there as much as tells what the candidates are and which of them can go on.
+/// Adds to `projection` everything that `keyPathCandidates` reads for `word` and roots at `from`: the path up to the
+/// last step, the candidates there, and enough of their values to see whether more steps can follow.
 void addCandidates(Projection& projection, Projection::Place from, std::string_view word, KeyPathUse use);
 
 }  // namespace kovalt

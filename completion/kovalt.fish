@@ -1,15 +1,15 @@
 # fish completion for Kovalt
 
-# The helper that knows the candidates, found from the place of this script.
+# The helper prints the candidates. Its path is relative to this script.
 set -g __kovalt_helper (status dirname)/@KOVALT_COMPLETE@
 
-# Prints the text that a word of the line stands for, which is given as it is typed and without quotes. Nothing is run for
-# it: of all expansions only a home folder and a variable at the start are known.
+# Prints a word of the line, given as typed and without quotes, after expansion. Runs nothing: it expands only a home
+# folder or a variable at the start.
 function __kovalt_expand --argument-names raw word
     set -l parts (string match --regex '^\$(\w+)(.*)$' -- $word)
     set -l home (string match --regex '^~(?:[a-zA-Z_][a-zA-Z_0-9.-]*)?(?=/|$)' -- $raw)
     if set --query home[1]
-        # Nothing but a user's name is evaluated; it stays as it is where there is no such user.
+        # Evaluates nothing but a user name. If there is no such user, the word stays.
         set -l folder
         eval "set folder $home"
         string replace -- $home "$folder" $word
@@ -22,13 +22,13 @@ function __kovalt_expand --argument-names raw word
 end
 
 function __kovalt_complete
-    # A completion of fish sees nothing of the line after the cursor.
+    # fish does not show a completion the line after the cursor.
     set -l before (commandline --current-process --tokenize --cut-at-cursor)
     set -l token (commandline --current-token --cut-at-cursor)
     # The word at the cursor may leave a quote open.
     set -l typed (string unescape -- $token; or string unescape -- $token\"; or string unescape -- $token\')
 
-    # The words as they are typed, which only tell a quoted "~" from a home folder.
+    # The words as typed. They only serve to distinguish a quoted "~" from a home folder.
     set -l raws (string match --all --regex -- \
         '(?:[^\s\'"\\\\]|\\\\(?:.|$)|\'(?:[^\'\\\\]|\\\\.)*(?:\'|$)|"(?:[^"\\\\]|\\\\.)*(?:"|$))+' \
         (commandline --current-process --cut-at-cursor))
@@ -42,13 +42,13 @@ function __kovalt_complete
     set --append line (__kovalt_expand "$token" "$typed" | string collect --allow-empty)
 
     set -l candidates ($__kovalt_helper (count $before) $line 2>/dev/null)
-    # The names in a file come from somebody else, and none may become anything that fish runs or expands. fish escapes
-    # what it inserts, except for a "~" at the start of a word: names that begin with one are left out there.
+    # A file from somebody else may contain any name, and fish must not run or expand one. fish escapes what it inserts,
+    # except a "~" at the start of a word, so there names that begin with "~" are left out.
     if test -z "$token"
         set candidates (string match --invert -- '~*' $candidates)
     end
     if test "$candidates[1]" = files
-        # A command that is unknown is completed with file names.
+        # fish completes an unknown command with file names.
         complete --do-complete "__kovalt_files $token"
     else if test "$candidates[1]" = 'words cut'
         string join \n -- $candidates[2..]\t'the list is cut'

@@ -1,8 +1,9 @@
-// Completes a command line for the completion functions of the shells: takes the position of the word at the cursor,
-// counted from 0, and the words of the line, without the shell's quoting. Prints "files" where file names belong, and
-// "words" and then the candidates, one a line, otherwise; "words cut" where there are more of them. A shell in the
-// middle of a command line is no place for errors: nothing is ever printed on standard error, and the exit status is
-// always 0.
+// Completes a command line for the shells' completion functions. The arguments are the index of the word at the cursor,
+// counted from 0, and the words of the line without the shell's quoting. Prints "files" if the word is a file name.
+// Otherwise prints "words", or "words cut" if there are more candidates than it lists, and then one candidate per line.
+//
+// Never prints on standard error and always exits with status 0: an error would garble the command line that the user
+// is typing.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -41,7 +42,8 @@ int main(int argumentCount, char* arguments[]) {
   if (std::freopen("/dev/null", "w", stderr) == nullptr || argumentCount < 3) {
     return EXIT_SUCCESS;
   }
-  // A file that nests deeper than the stack is ends the process that reads it; only a child of ours shall end so.
+  // The file may need more memory than there is, which aborts the process that reads it. A child reads it, so that the
+  // shell sees no abort.
   const pid_t child = fork();
   if (child == 0) {
     completeAndPrint({arguments + 2, arguments + argumentCount}, arguments[1]);

@@ -6,27 +6,28 @@
 #include "completion/shown_text.h"
 #include "completion/starts_with.h"
 #include "json/document.h"
+#include "json/path/key_path.h"
 #include "json/path/selecting_values.h"
 
 namespace kovalt {
 namespace {
 
-bool canStandInStep(std::string_view text) { return text.find('.') == std::string_view::npos && canBeShown(text); }
+bool canBePartOfStep(std::string_view text) { return text.find('.') == std::string_view::npos && canBeShown(text); }
 
 bool isMemberStep(std::string_view name, KeyPathUse use) {
-  const bool readAsSelection = use.selects && name.find('=') != std::string_view::npos;
-  return !name.empty() && !readAsSelection && canStandInStep(name);
+  const bool readAsSelection = use.selects && asSelectionStep(name);
+  return !name.empty() && !readAsSelection && canBePartOfStep(name);
 }
 
-bool isRefKey(std::string_view name) { return name.find('=') == std::string_view::npos && canStandInStep(name); }
+bool isRefKey(std::string_view name) { return !asSelectionStep(name) && canBePartOfStep(name); }
 
 /// Whether `key` can be the key of a selection step that begins with `typed`.
 bool keyFits(std::string_view key, std::string_view typed) {
-  const std::size_t equals = typed.find('=');
-  return equals == std::string_view::npos ? startsWith(key, typed) : key == typed.substr(0, equals);
+  const std::optional<SelectionStep> selection = asSelectionStep(typed);
+  return selection ? key == selection->refKey : startsWith(key, typed);
 }
 
-/// Of the members of `object` with the same name, the first.
+/// Returns the first member of each name.
 std::vector<const Value::Member*> firstMembers(const Value& object) {
   std::set<std::string_view> names;
   std::vector<const Value::Member*> first;
@@ -38,11 +39,11 @@ std::vector<const Value::Member*> firstMembers(const Value& object) {
   return first;
 }
 
-/// Adds the selections by a member that can select.
+/// Adds the selections by `member`, whose value can select.
 void addSelections(const Value::Member& member, std::vector<Selection>& selections) {
   const auto add = [&](const Value& scalar) {
     std::string refValue = refValueOf(scalar);
-    if (canStandInStep(refValue)) {
+    if (canBePartOfStep(refValue)) {
       selections.push_back({textOf(member.name), std::move(refValue)});
     }
   };
@@ -95,8 +96,8 @@ std::optional<std::vector<Selection>> SelectionReader::nextObject() {
       continue;
     }
     if (!canSelect(member->value)) {
-      endedKeys_.insert(refKey);
-    } else if (endedKeys_.count(refKey) == 0) {
+      stoppedKeys_.insert(refKey);
+    } else if (stoppedKeys_.count(refKey) == 0) {
       addSelections(*member, selections);
     }
   }

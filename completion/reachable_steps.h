@@ -1,7 +1,7 @@
 #pragma once
 
-// The steps by which a key path goes on from a value. Not offered: what no step reaches, what holds a ".", and what a
-// terminal cannot show.
+// The steps by which a key path can continue from a value. Steps that contain a "." or that a terminal cannot show are
+// left out.
 
 #include <optional>
 #include <set>
@@ -15,38 +15,38 @@ namespace kovalt {
 
 /// What an option does with its key path.
 struct KeyPathUse {
-  bool selects = true;      ///< False where a step with "=" is a member name like any other, as it is for removals.
-  bool namesArray = false;  ///< The path ends at an array, so arrays that can be entered are offered by name, too.
+  bool selects = true;      ///< False for removals, where a step with "=" is an ordinary member name.
+  bool namesArray = false;  ///< The path may end at an array, so an array is also offered without a step into it.
 };
 
-/// The members of `object` that a step names: of those with the same name, the first.
+/// Returns the members of `object` that a step can name. Of members with the same name, that is the first.
 std::vector<const Value::Member*> reachableMembers(const Value& object, KeyPathUse use);
 
-/// A step that finds an object of an array.
+/// A step that selects an object of an array.
 struct Selection {
-  std::string_view refKey;  ///< Belongs to the document.
+  std::string_view refKey;  ///< Refers to the document.
   std::string refValue;
 };
 
-/// Walks an array and hands out the selections that find its objects, an object at a time.
+/// Walks an array and returns the selections that find its objects, one object at a time.
 class SelectionReader {
  public:
-  /// Only selections whose key fits to `typed`, the start of a step, are handed out. `array` must outlive the reader.
+  /// Restricts the selections to those whose key matches `typed`, the start of a step. `array` must outlive the reader.
   SelectionReader(const Value& array, std::string_view typed);
 
-  /// The selections by the members of the next object. Nothing after the last object that a selection reaches: it stops
-  /// at an element that is no object.
+  /// Returns the selections of the next object, or nothing at the end of the array or at an element that is not an
+  /// object, where every selection stops.
   std::optional<std::vector<Selection>> nextObject();
 
  private:
   const Value* next_;
   const Value* end_;
   std::string_view typed_;
-  /// The keys by which no selection gets beyond an object that was walked over.
-  std::set<std::string_view> endedKeys_;
+  /// The keys whose selections stop at an earlier object.
+  std::set<std::string_view> stoppedKeys_;
 };
 
-/// Whether any step goes on from `value`.
+/// Whether any step can follow after `value`.
 bool canGoOn(const Value& value, KeyPathUse use);
 
 }  // namespace kovalt
