@@ -1,11 +1,8 @@
-"""Shows the figures of docs/reliability.json on the page docs/reliability.md, between the comments that mark the places.
+"""Usage: python3 docs/reliability_figures.py [--check | STEP COMMAND COMMIT <LOG]
 
-    python3 docs/reliability_figures.py             writes the page
-    python3 docs/reliability_figures.py --check     fails where the page shows anything else
-    python3 docs/reliability_figures.py STEP COMMAND COMMIT <LOG
-
-The last form first replaces the figures of a step by those in a log: its lines of FIGURE, a name and a value, separated
-by tabs.
+Writes the figures of docs/reliability.json to the page docs/reliability.md, between the comments that mark their places.
+With --check, fails if the page shows anything else. With a step, first replaces the figures of that step by those of the
+log: the lines that consist of FIGURE, a name and a value, separated by tabs.
 """
 
 import datetime
@@ -16,7 +13,7 @@ from pathlib import Path
 
 DATA = Path(__file__).with_name("reliability.json")
 PAGE = Path(__file__).with_name("reliability.md")
-#: A place for figures: the first comment names steps, or says that the place is for the origin of all figures.
+#: A place for figures. Its first comment lists steps, or says "origin" for the commits of all figures.
 PLACE = re.compile(r"(<!-- Figures: ([\w -]+) -->\n).*?(<!-- End of the figures -->)", re.DOTALL)
 
 
@@ -26,14 +23,14 @@ def figures_of(log):
 
 
 def origin(data):
-    """The commit of all figures, or the steps of each commit."""
+    """Returns the commit of all figures, or the steps of each commit."""
     steps = {}
     for name, step in data.items():
         steps.setdefault(f"commit {step['commit']}, {step['date']}", []).append(name)
     if len(steps) == 1:
-        return f"All figures are of {next(iter(steps))}.\n"
-    return "The figures are of different commits: " + "; ".join(
-        f"{', '.join(names)} of {commit}" for commit, names in steps.items()) + ".\n"
+        return f"All figures come from {next(iter(steps))}.\n"
+    return "The figures come from different commits: " + "; ".join(
+        f"{', '.join(names)} from {commit}" for commit, names in steps.items()) + ".\n"
 
 
 def table(data, names):
@@ -46,7 +43,7 @@ def table(data, names):
 
 
 def page_with(data, text):
-    """The text of the page with the figures of the data, all of which have a place."""
+    """Returns the text of the page with the figures of the data. Exits if a step has no place."""
     shown = {name for _, names, _ in PLACE.findall(text) for name in names.split()}
     if not data.keys() <= shown:
         raise SystemExit(f"{PAGE} has no place for {', '.join(data.keys() - shown)}")

@@ -33,20 +33,20 @@ def filled(origin, rows):
 class Page(unittest.TestCase):
     def test_each_place_gets_its_steps_in_its_order(self):
         data = {"fuzz": step("abc", runs="12345 of 999"), "depth": step("abc", levels="7", bytes="1000")}
-        page = filled("All figures are of commit abc, 2026-11-22.", "| levels | 7 | by hand |\n"
+        page = filled("All figures come from commit abc, 2026-11-22.", "| levels | 7 | by hand |\n"
                       "| bytes | 1,000 | by hand |\n| runs | 12,345 of 999 | by hand |\n")
         self.assertEqual(page, page_with(data, PAGE))
         self.assertEqual(page, page_with(data, page))
 
     def test_different_commits_are_named(self):
-        self.assertEqual(filled("The figures are of different commits: depth of commit abc, 2026-11-22; "
-                                "fuzz of commit def, 2026-11-22.", ""),
+        self.assertEqual(filled("The figures come from different commits: depth from commit abc, 2026-11-22; "
+                                "fuzz from commit def, 2026-11-22.", ""),
                          page_with({"depth": step("abc"), "fuzz": step("def")}, PAGE))
 
-    def test_a_step_without_a_place_is_refused(self):
+    def test_a_step_without_a_place_is_rejected(self):
         self.assertRaises(SystemExit, page_with, {"memory": step("abc")}, PAGE)
 
-    def test_a_log_has_figures_among_other_lines(self):
+    def test_figures_are_found_among_other_lines_of_a_log(self):
         self.assertEqual({"a b": "1, 2"}, figures_of(["FIGURE of speech\n", "FIGURE\ta b\t1, 2\n", "== step\n"]))
 
 
