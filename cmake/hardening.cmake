@@ -1,14 +1,14 @@
-# The programs read files that others wrote, so a defect should end them rather than serve an attacker. CONTRIBUTING.md
-# lists what is left out.
+# The programs parse untrusted files, so a defect should abort them instead of helping an attacker. CONTRIBUTING.md
+# lists the options that are left out, with reasons.
 include(CheckLinkerFlag)
 add_library(kovalt_hardened INTERFACE)
 target_link_libraries(kovalt_program INTERFACE kovalt_hardened)
-# The builds for testing are linked dynamically, and some have sanitizers, which find more.
+# Only the released programs are hardened. The dynamically linked builds are for tests, some under sanitizers.
 if(NOT KOVALT_STATIC)
   return()
 endif()
 
-# GCC 11 knows no level above the second.
+# GCC 11 supports levels up to 2.
 set(level $<IF:$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,12>>,2,3>)
 target_compile_options(
   kovalt_hardened
@@ -20,8 +20,8 @@ elseif(CMAKE_SYSTEM_PROCESSOR STREQUAL aarch64)
   target_compile_options(kovalt_hardened INTERFACE -mbranch-protection=standard)
 endif()
 
-# Not every C library has the start-up code of a static program that is position-independent. Unpacked, the relocations of
-# one take as long as the rest of the start; a linker that cannot pack them warns.
+# Not every C library has start-up code for a static position-independent program. The relocations of such a program are
+# packed, because applying unpacked ones takes as long as the rest of the start. A linker that cannot pack them warns.
 check_linker_flag(CXX -static-pie KOVALT_STATIC_PIE)
 check_linker_flag(CXX "-static-pie;-Wl,--fatal-warnings,-z,pack-relative-relocs" KOVALT_PACKED_RELOCATIONS)
 target_link_options(

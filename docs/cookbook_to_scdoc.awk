@@ -1,5 +1,5 @@
-# Makes the source of a manual page out of the cookbook. Its headings become sections, except for the first, which the
-# head of the page stands for; code in the text becomes bold; links keep their text.
+# Makes the source of a manual page from the cookbook. The first heading is dropped, because the page has a title; the
+# others become sections. Code in the text becomes bold, and links keep only their text.
 BEGIN {
   print "KOVALT-COOKBOOK(7) \"Kovalt " version "\" \"Miscellaneous Information Manual\"\n"
   print "# NAME\n\nkovalt-cookbook - tasks for Kovalt, the command for each, and what it prints\n"

@@ -1,6 +1,6 @@
-# Mends what scdoc leaves in a page and the linters of pages object to, or a reader stumbles over: paragraph breaks
-# beside headings and at the end of a block, items whose first line stands one column off the others, characters
-# that a terminal does not show as typed, and lines of more than 80 bytes.
+# Fixes what linters and readers dislike in the output of scdoc: paragraph breaks next to headings and at the end of a
+# block, list items whose first line is one column off, characters that a terminal does not show as typed, and lines
+# longer than 80 bytes.
 /^\.TH/ { print; print ".nh"; after_heading = 1; next } # A page starts with hyphenation on.
 /^\.P$/ { break_wanted = !after_heading; next }
 break_wanted && !/^\.(RE|SH|SS)/ { print ".P"; break_wanted = 0 }

@@ -1,9 +1,9 @@
-# Run at the end of each installation. Expects `bin`, `man` and `share`, the folders below the prefix.
+# Runs at the end of each installation. `bin`, `man` and `share` must be the folders below the prefix.
 cmake_policy(VERSION 3.25)
 
-# Adds the command, its page and its completions under their names in lower case. On a file system that ignores case
-# these exist already, and a link would replace the file. The completions serve kovalt-edit, too: bash and fish look for a
-# script with the name of the command.
+# Links the lower-case names to the command, its page and its completions. On a file system that ignores case the names
+# exist already, and a link would replace the file. The completions are also linked as those of kovalt-edit, because
+# bash and fish look for a script with the name of the command.
 foreach(path ${bin}/Kovalt ${man}/man1/Kovalt.1 ${share}/bash-completion/completions/Kovalt
              ${share}/fish/vendor_completions.d/Kovalt.fish)
   cmake_path(GET path PARENT_PATH folder)
@@ -24,7 +24,8 @@ foreach(path ${bin}/Kovalt ${man}/man1/Kovalt.1 ${share}/bash-completion/complet
   endforeach()
 endforeach()
 
-# Prints the line for the startup file of a shell, unless that searches the prefix: one of the last arguments.
+# Prints the line to add to a shell's startup file, unless the prefix is one of the further arguments, which the shell
+# searches anyway.
 function(print_completion_line shell file line)
   if(NOT CMAKE_INSTALL_PREFIX IN_LIST ARGN AND "$ENV{DESTDIR}" STREQUAL "")
     message(NOTICE "To complete in ${shell}, add to ${file}:\n  ${line}")

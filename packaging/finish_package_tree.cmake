@@ -1,9 +1,9 @@
-# Run by CPack between the installation into a folder of its own and the packing of that folder. Adds what only packages
-# have, and removes what differs from one run to the next.
+# CPack runs this after it has installed the files into a temporary folder and before it packs them. Adds the files that
+# only packages have, and removes differences between builds.
 set(tree ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr)
 set(share ${tree}/share)
 set(documents ${share}/doc/kovalt)
-# Both times are SOURCE_DATE_EPOCH where that is set.
+# This time and the dates below are SOURCE_DATE_EPOCH if it is set.
 string(TIMESTAMP seconds "%s" UTC)
 
 file(COPY ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION ${documents})
@@ -16,13 +16,13 @@ else()
   string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
   configure_file(${CMAKE_CURRENT_LIST_DIR}/changelog.Debian.in ${documents}/changelog.Debian)
   configure_file(${CMAKE_CURRENT_LIST_DIR}/lintian-overrides ${share}/lintian/overrides/kovalt COPYONLY)
-  # Debian's zsh has a folder of its own for packages.
+  # Debian's zsh has a separate folder for packages.
   file(RENAME ${share}/zsh/site-functions ${share}/zsh/vendor-completions)
 endif()
 
 execute_process(COMMAND ${CPACK_KOVALT_STRIP} --remove-section=.comment ${tree}/bin/Kovalt ${tree}/libexec/kovalt/complete
                 COMMAND_ERROR_IS_FATAL ANY)
-# The compressed page has another name, so the link to it is replaced.
+# Compression renames the page, so the link to it is replaced.
 file(REMOVE ${share}/man/man1/kovalt.1)
 file(GLOB_RECURSE texts ${share}/man/* ${documents}/changelog*)
 execute_process(COMMAND gzip -9n ${texts} COMMAND_ERROR_IS_FATAL ANY)

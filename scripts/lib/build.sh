@@ -1,17 +1,17 @@
 # shellcheck shell=bash disable=SC2034
-# Sourced by the scripts that build. Expects the project's folder as the current one.
+# Sourced by the scripts that build. The current folder must be that of the project.
 
 . scripts/lib/usage.sh
 
-# The Debian packages that a build needs, and what the tests need besides.
+# The Debian packages for a build, and the additional ones for the tests.
 build_packages=(cmake ninja-build g++ rapidjson-dev)
 test_packages=(bash-completion clang-format dpkg-dev fakeroot fish gnuplot-nox jq libgtest-dev man-db mandoc python3 scdoc
   strace tmux valgrind zsh)
 # The architectures that have a toolchain file in cmake/.
 architectures=(amd64 arm64 armhf riscv64 i386 s390x)
 
-# Installs those of the named packages that are missing. Does nothing on systems without apt-get, where CMake reports
-# what it does not find.
+# Installs those of the given packages that are missing. Without apt-get it does nothing, and CMake reports what it does
+# not find.
 require_packages() {
   local package missing=() as_root=()
   command -v apt-get >/dev/null || return 0
@@ -31,8 +31,8 @@ require_packages() {
   }
 }
 
-# Configures build/FOLDER from a preset, with further arguments for CMake. Does nothing where that was done in this place:
-# a checkout that was copied or moved brings build folders of another place.
+# Configures build/FOLDER: FOLDER PRESET [CMAKE_ARGUMENT]... Does nothing if that was done before, except in a copied or
+# moved checkout, whose build folders refer to the old place.
 configure() {
   local folder=$1 preset=$2 home
   if [[ -f build/$folder/build.ninja ]]; then
@@ -43,25 +43,26 @@ configure() {
   cmake --fresh --preset "$preset" -B "build/$folder" "${@:3}" >/dev/null
 }
 
-# Brings the targets of build/FOLDER up to date, or everything without a target. Prints the steps on standard error, and
-# nothing where there is nothing to do.
+# Builds targets in build/FOLDER, by default all: FOLDER [TARGET]... Prints the steps on standard error, or nothing if
+# all is up to date.
 build() {
   cmake --build "build/$1" ${2:+--target "${@:2}"} 2>&1 |
     sed --unbuffered -e '/^ninja: no work to do/d' -e '/^\[0\//d' >&2
 }
 
-# Brings the targets of a preset up to date, or everything without a target.
+# The same for a preset, which it configures first: PRESET [TARGET]...
 build_preset() {
   configure "$1" "$1"
   build "$@"
 }
 
-# Runs the tests of build/FOLDER. Further arguments are for ctest.
+# Runs the tests of build/FOLDER: FOLDER [CTEST_ARGUMENT]...
 run_tests() {
   ctest --test-dir "build/$1" --output-on-failure --parallel 2 "${@:2}"
 }
 
-# Sets `toolchain` to CMake's arguments for an architecture, none for that of this machine, and installs its compiler.
+# Sets `toolchain` to the CMake arguments for an architecture, which are none for this machine's own, and installs its
+# compiler.
 choose_toolchain() {
   local triple
   toolchain=()

@@ -1,9 +1,9 @@
 # shellcheck shell=bash disable=SC2154
-# Sourced by scripts/prove: builds the whole tree with every compiler that Debian offers, with GCC's standard library and
+# Sourced by scripts/prove. Builds everything with each compiler that Debian offers, with GCC's standard library and
 # with LLVM's.
 
-# Prints the package of LLVM's library for a compiler: its own where that has what the tool uses, and for GCC the newest
-# that supports it.
+# Prints the package of LLVM's library for a compiler: that of the same version if it is complete enough, and for GCC
+# the newest that supports it.
 libcxx_of() {
   case $1 in
     # Version 13 has no std::to_chars for floating-point numbers.
@@ -13,7 +13,7 @@ libcxx_of() {
   esac
 }
 
-# Unpacks a version of LLVM's library, because the packages of two versions exclude each other. Prints its folder.
+# Unpacks a version of LLVM's library and prints its folder. Packages of two versions cannot be installed together.
 unpack_libcxx() {
   local version=${1#libc++-} folder=$PWD/build/compilers/$1
   mkdir -p "$folder"
@@ -22,19 +22,19 @@ unpack_libcxx() {
   echo "$folder/usr/lib/llvm-$version"
 }
 
-# Builds the whole tree with a compiler and a library, and fails where there is a warning.
+# Builds everything with a compiler and a library, and fails if there is a warning.
 build_with() {
   local compiler=$1 library=$2 folder=compilers/$1-$2 command=${1/clang-/clang++-} flags='' root settings
   rm -rf "build/$folder"
   settings=("-DCMAKE_CXX_COMPILER=$command")
-  # GCC finds some warnings only where it optimises; clang finds all of its own anyway.
+  # GCC finds some warnings only while it optimises; clang does not, so it skips that to build faster.
   if [[ $compiler == clang-* ]]; then
     settings+=(-DCMAKE_BUILD_TYPE=)
     flags=-Wno-unused-command-line-argument
   fi
   if [[ $library != libstdc++ ]]; then
     root=$(unpack_libcxx "$library")
-    # Linked before GCC's library, which then has nothing to add.
+    # Linked before GCC's library, which then supplies nothing.
     settings+=("-DCMAKE_CXX_FLAGS=$flags -nostdinc++ -isystem $root/include/c++/v1"
       "-DCMAKE_CXX_STANDARD_LIBRARIES=-L$root/lib -l:libc++.a -l:libc++abi.a")
     # The packaged GoogleTest needs GCC's library.

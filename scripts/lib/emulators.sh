@@ -1,10 +1,10 @@
 # shellcheck shell=bash disable=SC2154
-# Sourced by scripts/prove: runs the program and its tests for other processors under emulators.
+# Sourced by scripts/prove. Runs the program and its tests for other processors under emulators.
 
-# Runs the process tests, a program of this machine, on calls of a program for another processor: PROGRAM EMULATOR.
+# Runs the process tests natively, and the PROGRAM that they call in an emulator: PROGRAM EMULATOR [ARGUMENT]...
 run_rows() {
   local folder status=0
-  # Open to the user without privileges that some rows run as.
+  # Some rows run as an unprivileged user, who must be able to read the folder.
   folder=$(mktemp -d)
   cp "$1" "$folder/Kovalt"
   printf '#!/bin/sh\nexec %s -0 Kovalt %s "$@"\n' "${*:2}" "$folder/Kovalt" >"$folder/emulated"
@@ -14,7 +14,7 @@ run_rows() {
   return "$status"
 }
 
-# Builds for an architecture, and runs all there is for it.
+# Builds for an architecture, and runs every test that can run there.
 emulate() {
   local architecture=$1 folder=architectures/$1 program=build/architectures/$1/src/app/Kovalt emulator
   choose_toolchain "$architecture"
@@ -24,7 +24,7 @@ emulate() {
   read -ra emulator < <(sed -n 's/^set(CMAKE_CROSSCOMPILING_EMULATOR \(.*\))$/\1/p' "cmake/$architecture.cmake")
 
   cmp <(build/test/src/app/Kovalt --file "$logs/numbers.json") <("${emulator[@]}" "$program" --file "$logs/numbers.json")
-  figure "$architecture: numbers loaded and printed" "200000, the same as here"
+  figure "$architecture: numbers loaded and printed" "200000, equal to this machine's"
   "${emulator[@]}" "build/$folder/tests/unit_tests" --gtest_brief=1 | tee "$logs/rows"
   figure "$architecture: unit tests" "$(passed <"$logs/rows") passed"
   run_suite "$architecture: fuzz targets on their saved inputs" "$folder" --tests-regex '^fuzz_replay_'

@@ -1,11 +1,11 @@
 # shellcheck shell=bash disable=SC2154
-# Sourced by scripts whose first comment is their usage. Expects the path of the script in `script`.
+# Sourced by scripts that begin with their usage as a comment. `script` must be the path of the script.
 
 print_usage() {
   sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$script"
 }
 
-# Prints the usage and exits where one of the arguments is --help.
+# Prints the usage and exits if one of the arguments is --help.
 answer_help() {
   local argument
   for argument in "$@"; do
@@ -16,7 +16,7 @@ answer_help() {
   done
 }
 
-# Reports what is wrong with the arguments, and exits.
+# Reports a problem with the arguments, prints the usage and exits.
 refuse_arguments() {
   printf '%s: %s\n\n' "${script##*/}" "$1" >&2
   print_usage >&2
