@@ -1,6 +1,6 @@
-// The array reads and the concatenation print what a slow second version prints. An input is a line with a key path,
-// one with fields, one with separators, one with two numbers that make the array longer, and a document, whose text
-// also serves as it is.
+// Array reads and concatenations print the same as slow, obvious versions of them. An input has a line with a key path,
+// one with fields, one with separators, one with two numbers for `lengthen`, and a document. The text operations are
+// also tried on the text of the document itself.
 
 #include <algorithm>
 #include <map>
@@ -55,7 +55,7 @@ std::string slowFlatText(std::string text, Commas commas, Quotes quotes) {
   return quotes == Quotes::go ? slowReplace(text, '"', "") : text;
 }
 
-/// What a plain read of the place prints.
+/// Returns what --read prints for the path.
 std::string slowRead(const std::string& path, const Value& root) {
   Lookups lookups;
   const Value* target = resolveForRead(KeyPath(path, "."), root, lookups);
@@ -89,10 +89,10 @@ void tryTextOperations(const std::string& text) {
   if (!spaced.empty()) {
     commasToSpaces(spaced);
   }
-  expect(spaced == slowCommasToSpaces(text), "commas become spaces as slowly");
+  expect(spaced == slowCommasToSpaces(text), "commas become spaces as in the slow version");
   std::string unquoted = text;
   removeQuotes(unquoted);
-  expect(unquoted == slowReplace(text, '"', ""), "quotes go as slowly");
+  expect(unquoted == slowReplace(text, '"', ""), "quotes are removed as in the slow version");
 }
 
 void tryArrayRead(const ReadAction& action, const Value& root, Commas commas, Quotes quotes) {
@@ -100,7 +100,8 @@ void tryArrayRead(const ReadAction& action, const Value& root, Commas commas, Qu
   Lookups lookups;
   const bool found = action.execute(root, text, lookups);
   expect(found == (resolveForRead(action, root, lookups) != nullptr), "an array read finds what a walk finds");
-  expect(text == slowFlatText(slowRead(action.text(), root), commas, quotes), "an array reads as slowly");
+  expect(text == slowFlatText(slowRead(action.text(), root), commas, quotes),
+         "an array read prints the same as the slow version");
 }
 
 void tryConcatenation(const std::string& path, const std::vector<std::string>& fields, const std::string& separators,
@@ -109,12 +110,13 @@ void tryConcatenation(const std::string& path, const std::vector<std::string>& f
   Lookups lookups;
   const bool found = ReadObjectArrayConcatAction(path, fields, separators).execute(root, text, lookups);
   const Value* target = resolveForRead(KeyPath(path, "."), root, lookups);
-  expect(found == (target != nullptr && target->IsArray()), "a concatenation finds an array where there is one");
-  expect(text == (found ? slowConcatenation(*target, fields, separators) : ""), "an array is concatenated as slowly");
+  expect(found == (target != nullptr && target->IsArray()), "a concatenation succeeds for arrays only");
+  expect(text == (found ? slowConcatenation(*target, fields, separators) : ""),
+         "a concatenation prints the same as the slow version");
 }
 
-/// Appends `count` objects to an array, with members "n" from 0 up, modulo `modulus`: the sizes at which the look-up of
-/// records changes its method are out of reach of what a fuzzer writes.
+/// Appends `count` objects to an array. Their members "n" count from 0 to `modulus` again and again. A fuzzer cannot
+/// write arrays so large that the lookup of records changes its method.
 void lengthen(Value* value, std::size_t count, std::size_t modulus, Allocator& allocator) {
   if (value == nullptr || !value->IsArray()) {
     return;

@@ -1,10 +1,10 @@
 #pragma once
 
-// Included before the sources of the tool whose assertions of RapidJSON are part of what the tool does, so that a fuzz
-// target goes on after such an end, with all memory released, and can tell it from a crash.
+// Included before those sources of the tool in which a failed assertion of RapidJSON is documented behaviour. The
+// assertion then throws, so that a fuzz target can continue without leaks and distinguish it from a crash.
 
-#include "fuzz/ends.h"
+#include "fuzz/early_exits.h"
 
-/// What RapidJSON leaves to its users to define.
+/// Replaces the assertion of RapidJSON.
 #define RAPIDJSON_ASSERT(condition) \
   (static_cast<bool>(condition) ? static_cast<void>(0) : kovalt::fuzz::throwForAssertion(#condition))

@@ -1,6 +1,6 @@
 #pragma once
 
-// How an input is cut into the parts that a target needs. Inputs are texts, so that saved ones can be read.
+// Splits an input into the parts that a target needs. Inputs are text, so that people can read the saved ones.
 
 #include <cstddef>
 #include <cstdint>
@@ -9,19 +9,19 @@
 
 namespace kovalt::fuzz {
 
-/// Between two sections of an input.
+/// Separates two sections of an input.
 inline constexpr const char* kSectionEnd = "\n%%\n";
 
-/// The bytes of an input.
+/// Returns the bytes of an input.
 std::string inputText(const std::uint8_t* data, std::size_t size);
 
-/// Takes the text up to `end` off the front of `text`, and `end` too; without an `end`, all of it.
+/// Removes the front of `text` up to and including `end`, and returns it without `end`. Without an `end`, that is all.
 std::string takeUpTo(const std::string& end, std::string& text);
 
-/// The lines of `text`; an empty text has none.
+/// Returns the lines of `text`. An empty text has none.
 std::vector<std::string> linesOf(std::string text);
 
-/// The number at the front of `text`, at most `limit`; 0 where there is none.
+/// Returns the number at the front of `text`, at most `limit`, or 0 if there is no number.
 std::size_t numberIn(const std::string& text, std::size_t limit);
 
 }  // namespace kovalt::fuzz

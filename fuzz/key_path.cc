@@ -1,5 +1,6 @@
-// The text of a key path is the argument, both walks reach the place that a plain walk reaches, and a chain built for a
-// path is read back along it. An input is a line with a key path, one with another separator, and a document.
+// The text of a key path is its argument, both walks reach the same value as a plain walk, and a chain of objects that
+// is built for a path can be read along it. An input has a line with a key path, one with another separator, and a
+// document.
 
 #include "json/path/key_path.h"
 
@@ -28,15 +29,14 @@ std::string join(const std::vector<std::string>& steps, const std::string& separ
 
 void trySeparator(const std::string& text, const std::string& separator) {
   const KeyPath path(text, separator);
-  expect(join(path.steps(), separator) == text, "the steps of a path joined are the path");
+  expect(join(path.steps(), separator) == text, "the joined steps are the path");
   expect(path.steps().empty() == text.empty(), "only an empty path has no steps");
   for (const std::string& step : path.steps()) {
-    expect(step.find(separator) == std::string::npos, "no step holds a separator");
+    expect(step.find(separator) == std::string::npos, "no step contains a separator");
   }
 }
 
-/// Both walks report what the plain walk reports. What they reach is marked, so that the documents differ if it is not
-/// the same place.
+/// Changes the value that the walks reach, so that the documents differ if the plain walk reached another one.
 void tryWalks(const KeyPath& path, Document& document) {
   PlainValue plain = plainValue(document);
   std::string errors;
@@ -50,11 +50,11 @@ void tryWalks(const KeyPath& path, Document& document) {
          "a walk for a read reports what the plain walk reports");
   expect(test::capture([&] { found = resolveExisting(path, document, lookups); }).errors == errors,
          "a walk for an edit reports what the plain walk reports");
-  expect(found == read && (found == nullptr) == (expected == nullptr), "both walks reach what the plain walk reaches");
+  expect(found == read && (found == nullptr) == (expected == nullptr), "all walks find a value, or none does");
   if (found != nullptr) {
     found->SetString("here");
     *expected = plainValue(*found);
-    expect(plainValue(document) == plain, "a walk reaches the place that the plain walk reaches");
+    expect(plainValue(document) == plain, "a walk reaches the same value as the plain walk");
   }
 }
 
@@ -64,7 +64,7 @@ void tryChain(const KeyPath& path) {
   if (path.text().find('=') == std::string::npos) {
     Lookups lookups;
     const Value* leaf = resolveForRead(path, chain, lookups);
-    expect(leaf != nullptr && *leaf == Value("leaf"), "a chain is read back along its path");
+    expect(leaf != nullptr && *leaf == Value("leaf"), "a chain can be read along its path");
   }
   const Value* current = &chain;
   for (const std::string& step : path.steps()) {

@@ -1,8 +1,9 @@
-// A call of many options prints, saves and ends as the same options one by one on plain lists. An input is a section
-// with one argument a line, and up to two with the files "a", the one to work on, and "b", the one to merge.
+// A call with many options prints, saves and exits like a plain call, which applies the options one by one to plain
+// lists. An input has a section with one argument per line, and up to two with the content of the files "a", the work
+// file, and "b", the file to merge.
 //
-// In all of it <N%M:text> stands for N texts with a comma or line end between them, in which "#" is the number of the
-// text, modulo M: the sizes at which look-ups change their method are out of reach of what a fuzzer writes.
+// In an input, <N%M:text> means N copies of the text, separated by commas or line feeds, in which "#" is the number of
+// the copy modulo M. A fuzzer cannot write inputs so large that the lookups change their method.
 
 #include <unistd.h>
 
@@ -50,11 +51,11 @@ std::string expanded(std::string text, const std::string& separator) {
   return all;
 }
 
-std::optional<End> endOf(const ToolContext& context) {
+std::optional<Exit> exitOf(const ToolContext& context) {
   try {
     run(context);
-  } catch (const EarlyEnd& early) {
-    return early.end;
+  } catch (const EarlyExit& early) {
+    return early.kind;
   }
   return std::nullopt;
 }
@@ -65,7 +66,7 @@ bool isPrintedNumber(const std::string& text) {
   return text.size() < 10 && std::to_string(std::strtol(text.c_str(), nullptr, 10)) == text;
 }
 
-/// The options of a call; none where the plain call does not know one of them.
+/// Returns the options of a call, or nothing if the plain call does not support one of them.
 std::vector<PlainOption> optionsIn(const std::vector<std::string>& arguments) {
   std::vector<PlainOption> options;
   for (std::size_t i = 0; i < arguments.size();) {
@@ -87,7 +88,7 @@ std::vector<PlainOption> optionsIn(const std::vector<std::string>& arguments) {
   return options;
 }
 
-/// Parses the command line of these options. Returns false where it does not hold just them.
+/// Parses the command line of these options. Returns false if the result is not exactly these options.
 bool parses(const std::vector<PlainOption>& options, ToolContext& context) {
   std::vector<const char*> arguments = {"Kovalt", "-f", "a"};
   for (const PlainOption& option : options) {
@@ -104,16 +105,16 @@ bool parses(const std::vector<PlainOption>& options, ToolContext& context) {
 
 void tryCall(const ToolContext& context, const Files& files, const PlainCall& expected) {
   writeScratchFiles(files);
-  std::optional<End> end;
-  const auto [output, errors] = test::capture([&] { end = endOf(context); });
-  expect(end == expected.end, "many options end the process as the plain call does");
-  expect(errors == expected.errors, "many options report what the plain call reports");
-  expect(end || output == expected.output, "many options print what the plain call prints");
+  std::optional<Exit> earlyExit;
+  const auto [output, errors] = test::capture([&] { earlyExit = exitOf(context); });
+  expect(earlyExit == expected.earlyExit, "many options exit early like the plain call");
+  expect(errors == expected.errors, "many options report the same as the plain call");
+  expect(earlyExit || output == expected.output, "many options print the same as the plain call");
   Files after = files;
-  if (!end && expected.modified) {
+  if (!earlyExit && expected.modified) {
     after["a"] = plainText(expected.document, 2);
   }
-  expect(readScratchFiles() == after, "many options save what the plain call saves");
+  expect(readScratchFiles() == after, "many options save the same as the plain call");
 }
 
 void tryInput(std::string input) {

@@ -1,5 +1,5 @@
-// A merge and a removal leave what the same done on plain lists leaves. An input is a line of numbers, two documents
-// and two lines with key paths of a removal each; see the saved inputs.
+// A merge and a removal have the same result as on plain lists. An input has a line with three numbers for `widen`, two
+// documents, and two lines with the key path of a removal each.
 
 #include <algorithm>
 #include <functional>
@@ -8,7 +8,7 @@
 
 #include "actions/edit/merge_value.h"
 #include "actions/edit/remove_action.h"
-#include "fuzz/ends.h"
+#include "fuzz/early_exits.h"
 #include "fuzz/input.h"
 #include "fuzz/plain_value.h"
 #include "fuzz/property.h"
@@ -18,18 +18,18 @@
 namespace kovalt::fuzz {
 namespace {
 
-/// How `work` ended, if it did not return.
-std::optional<End> endOf(const std::function<void()>& work) {
+/// Returns how `work` exited, or nothing if it returned.
+std::optional<Exit> exitOf(const std::function<void()>& work) {
   try {
     work();
-  } catch (const EarlyEnd& early) {
-    return early.end;
+  } catch (const EarlyExit& early) {
+    return early.kind;
   }
   return std::nullopt;
 }
 
-/// Appends `count` members to an object, with the names 0, `stride`, twice the stride and so on, modulo `count`: the
-/// sizes at which the look-up of names changes its method are out of reach of what a fuzzer writes.
+/// Appends `count` members to an object, with the names 0, `stride`, twice the stride and so on, modulo `count`. A
+/// fuzzer cannot write objects so large that the lookup of names changes its method.
 void widen(Value& value, std::size_t count, std::size_t stride, Allocator& allocator) {
   if (!value.IsObject()) {
     return;
@@ -42,25 +42,25 @@ void widen(Value& value, std::size_t count, std::size_t stride, Allocator& alloc
 
 void tryMerge(Document& target, Document& source) {
   PlainValue expected = plainValue(target);
-  const std::optional<End> expectedEnd = mergePlain(expected, plainValue(source)).end;
+  const std::optional<Exit> expectedExit = mergePlain(expected, plainValue(source)).earlyExit;
   EditedDocument edited(target);
-  const std::optional<End> end = endOf([&] { mergeValue(target, source, edited); });
-  expect(end == expectedEnd, "a merge ends the process only where it must");
-  expect(end || plainValue(target) == expected, "a merge leaves the members, counts and order of the plain merge");
+  const std::optional<Exit> earlyExit = exitOf([&] { mergeValue(target, source, edited); });
+  expect(earlyExit == expectedExit, "a merge exits early like the plain merge");
+  expect(earlyExit || plainValue(target) == expected, "a merge has the same result as the plain merge");
 }
 
-/// Returns whether the process goes on.
+/// Returns whether the process continues.
 bool tryRemoval(Document& document, const std::string& keyPath, EmptyParents emptyParents) {
   const RemoveAction action(keyPath, emptyParents);
   PlainValue expected = plainValue(document);
   const PlainRemoval removal = removePlain(expected, action.steps(), emptyParents == EmptyParents::clear);
   bool succeeded = false;
   EditedDocument edited(document);
-  const std::optional<End> end = endOf([&] { succeeded = action.execute(edited); });
-  expect(end == removal.end, "a removal ends the process only where it must");
-  expect(end || succeeded == removal.succeeded, "a removal succeeds like the plain one");
-  expect(end || plainValue(document) == expected, "a removal leaves the members and order of the plain one");
-  return !end;
+  const std::optional<Exit> earlyExit = exitOf([&] { succeeded = action.execute(edited); });
+  expect(earlyExit == removal.earlyExit, "a removal exits early like the plain removal");
+  expect(earlyExit || succeeded == removal.succeeded, "a removal succeeds like the plain removal");
+  expect(earlyExit || plainValue(document) == expected, "a removal has the same result as the plain removal");
+  return !earlyExit;
 }
 
 void tryRemovals(Document& original, const std::string& kept, const std::string& cleared) {

@@ -14,7 +14,7 @@ PlainValue object() {
   return value;
 }
 
-/// The JSON text of a string.
+/// Returns the JSON text of a string.
 std::string quoted(const std::string& bytes) {
   return valueToText(Value(rapidjson::StringRef(bytes.data(), static_cast<rapidjson::SizeType>(bytes.size()))), false);
 }
@@ -26,7 +26,7 @@ PlainValue scalar(rapidjson::Type type, const std::string& text) {
   return value;
 }
 
-/// The JSON text of a string up to its first NUL byte.
+/// Cuts the JSON text of a string at its first NUL.
 std::string upToNul(const std::string& text) {
   for (std::size_t i = 0; i < text.size(); i += text[i] == '\\' ? 2U : 1U) {
     if (text.compare(i, 6, "\\u0000") == 0) {
@@ -116,7 +116,7 @@ class Call {
 
   void report(const std::string& line) { call_.errors += line + "\n"; }
 
-  /// Returns whether the value was accepted; after a merge, `call_.end` may be set.
+  /// Returns whether the value was accepted. A merge may set `call_.earlyExit`.
   bool apply(const PlainOption& option, PlainValue& target) {
     if (option.name == "-as") {
       target = scalar(rapidjson::kStringType, quoted(option.value));
@@ -128,7 +128,7 @@ class Call {
       if (target.type != rapidjson::kObjectType) {
         target = object();
       }
-      end(mergePlain(target, merged_));
+      exitAfter(mergePlain(target, merged_));
     } else {
       std::string word = option.value;
       std::transform(word.begin(), word.end(), word.begin(), [](unsigned char byte) { return std::tolower(byte); });
@@ -144,11 +144,11 @@ class Call {
     return true;
   }
 
-  void end(const PlainMerge& merge) {
-    if (merge.end == End::typeClash) {
+  void exitAfter(const PlainMerge& merge) {
+    if (merge.earlyExit == Exit::typeClash) {
       report("Incompatible types for key " + merge.clash);
     }
-    call_.end = merge.end;
+    call_.earlyExit = merge.earlyExit;
   }
 
   bool edit() {
@@ -159,7 +159,7 @@ class Call {
       call_.modified = true;
       PlainValue* target = walkPlain(call_.document, option.keyPath, false, call_.errors);
       const bool applied = target != nullptr && apply(option, *target);
-      if (!applied && !call_.end) {
+      if (!applied && !call_.earlyExit) {
         PlainValue chain = scalar(rapidjson::kNullType, "null");
         apply(option, chain);
         const std::vector<std::string> steps = stepsOf(option.keyPath);
@@ -168,11 +168,11 @@ class Call {
           outer.members.emplace_back(*step, chain);
           chain = outer;
         }
-        if (!call_.end) {
-          end(mergePlain(call_.document, chain));
+        if (!call_.earlyExit) {
+          exitAfter(mergePlain(call_.document, chain));
         }
       }
-      if (call_.end) {
+      if (call_.earlyExit) {
         return false;
       }
     }
@@ -187,8 +187,8 @@ class Call {
         continue;
       }
       const PlainRemoval removal = removePlain(call_.document, stepsOf(option.keyPath), option.name == "-rmc");
-      if (removal.end) {
-        call_.end = removal.end;
+      if (removal.earlyExit) {
+        call_.earlyExit = removal.earlyExit;
         return false;
       }
       anyRemoved = true;

@@ -51,22 +51,22 @@ PlainValue* plainMember(PlainValue& object, const std::string& name) {
 
 PlainMerge mergePlain(PlainValue& target, const PlainValue& source) {
   if (source.type != rapidjson::kObjectType) {
-    return {End::noObject, {}};
+    return {Exit::notAnObject, {}};
   }
   for (const auto& [name, value] : source.members) {
     if (target.type != rapidjson::kObjectType) {
-      return {End::noObject, {}};
+      return {Exit::notAnObject, {}};
     }
     PlainValue* existing = plainMember(target, name);
     if (existing == nullptr) {
       target.members.emplace_back(name, value);
     } else if (existing->type != value.type) {
-      return {End::typeClash, name};
+      return {Exit::typeClash, name};
     } else if (value.type == rapidjson::kArrayType) {
       existing->elements.insert(existing->elements.end(), value.elements.begin(), value.elements.end());
     } else if (value.type != rapidjson::kObjectType) {
       *existing = value;
-    } else if (PlainMerge inner = mergePlain(*existing, value); inner.end) {
+    } else if (PlainMerge inner = mergePlain(*existing, value); inner.earlyExit) {
       return inner;
     }
   }
@@ -80,7 +80,7 @@ PlainRemoval removePlain(PlainValue& root, const std::vector<std::string>& steps
   }
   if (steps.size() == 1) {
     if (root.type != rapidjson::kObjectType) {
-      removal.end = End::noObject;
+      removal.earlyExit = Exit::notAnObject;
     } else {
       removal.succeeded = removePlainMember(root, steps[0]);
     }
@@ -101,7 +101,7 @@ PlainRemoval removePlain(PlainValue& root, const std::vector<std::string>& steps
   }
   for (std::size_t j = steps.size() - 1; j >= 1; --j) {
     if (table[j] == nullptr || (table[j]->members.empty() && table[j - 1] == nullptr)) {
-      removal.end = End::skippedStep;
+      removal.earlyExit = Exit::skippedStep;
       return removal;
     }
     if (table[j]->members.empty()) {

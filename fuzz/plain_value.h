@@ -1,13 +1,13 @@
 #pragma once
 
-// A JSON value in the most obvious form, and the merge and the removal done on it in the most obvious way.
+// A JSON value in the most obvious form, with a merge and a removal in the most obvious way.
 
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "fuzz/ends.h"
+#include "fuzz/early_exits.h"
 #include "json/document.h"
 
 namespace kovalt::fuzz {
@@ -24,22 +24,22 @@ struct PlainValue {
 
 PlainValue plainValue(const Value& value);
 
-/// The value of the first member of `object` of that name; nullptr where there is none.
+/// Returns the value of the first member of `object` with this name, or nullptr.
 PlainValue* plainMember(PlainValue& object, const std::string& name);
 
-/// How a merge ended the process, if it did not come through, and the name at which types clashed.
+/// How a merge exited, if it did, and the name of the member whose types clashed.
 struct PlainMerge {
-  std::optional<End> end;
+  std::optional<Exit> earlyExit;
   std::string clash;
 };
 
 /// Merges `source` into `target`.
 PlainMerge mergePlain(PlainValue& target, const PlainValue& source);
 
-/// What became of a removal: whether it was a success, or how it ended the process.
+/// Whether a removal succeeded, or how it exited.
 struct PlainRemoval {
   bool succeeded = true;
-  std::optional<End> end;
+  std::optional<Exit> earlyExit;
 };
 
 PlainRemoval removePlain(PlainValue& root, const std::vector<std::string>& steps, bool clearEmptyParents);

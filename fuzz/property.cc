@@ -10,7 +10,7 @@
 namespace kovalt::fuzz {
 namespace {
 
-/// A copy of standard error, taken before the tool's own output is sent away.
+/// A copy of standard error, made before the output of the tool is redirected.
 int reportDescriptor() {
   static const int descriptor = dup(STDERR_FILENO);
   return descriptor;

@@ -1,12 +1,12 @@
 #pragma once
 
-// What every fuzz target states its property with.
+// States the properties that a fuzz target checks.
 
 #include <string_view>
 
 namespace kovalt::fuzz {
 
-/// Ends the process with a report on what was standard error at its start, where `holds` is false.
+/// If `holds` is false, reports `property` on the original standard error and aborts.
 void expect(bool holds, std::string_view property);
 
 }  // namespace kovalt::fuzz

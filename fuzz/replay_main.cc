@@ -1,4 +1,4 @@
-// Runs a fuzz target on the saved inputs in FOLDER. Fails where an input shows a defect, and where there is none.
+// Runs a fuzz target on the saved inputs in FOLDER. Fails if an input shows a defect, or if there are no inputs.
 
 #include <cstdlib>
 #include <filesystem>
@@ -43,7 +43,7 @@ int main(int argumentCount, char* arguments[]) {
   }
   LLVMFuzzerInitialize(&argumentCount, &arguments);
   for (const fs::path& file : files) {
-    // The last one named is the one that shows the defect.
+    // The last printed name is that of the input that shows the defect.
     std::cerr << "Input " << file << std::endl;
     runOn(file);
   }

@@ -1,4 +1,4 @@
-// Every document that loads can be written in each layout and loads again as the same document.
+// Every document that loads can be written in each format and loads again as the same document.
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +14,7 @@
 namespace kovalt::fuzz {
 namespace {
 
-/// The reader's conversion of long decimal fractions may miss the nearest double by a few steps.
+/// RapidJSON converts a long decimal fraction to a double that is up to this many steps from the nearest one.
 constexpr double kSteps = 8;
 
 bool sameNumber(const Value& left, const Value& right) {
@@ -27,14 +27,14 @@ bool sameNumber(const Value& left, const Value& right) {
   return std::fabs(a - b) <= kSteps * step && std::signbit(a) == std::signbit(b);
 }
 
-bool sameButForLastDigits(const Value& left, const Value& right);
+bool equalExceptLastDigits(const Value& left, const Value& right);
 
 bool sameElements(const Value& left, const Value& right) {
   if (left.Size() != right.Size()) {
     return false;
   }
   for (rapidjson::SizeType i = 0; i < left.Size(); ++i) {
-    if (!sameButForLastDigits(left[i], right[i])) {
+    if (!equalExceptLastDigits(left[i], right[i])) {
       return false;
     }
   }
@@ -46,15 +46,15 @@ bool sameMembers(const Value& left, const Value& right) {
     return false;
   }
   for (auto a = left.MemberBegin(), b = right.MemberBegin(); a != left.MemberEnd(); ++a, ++b) {
-    if (a->name != b->name || !sameButForLastDigits(a->value, b->value)) {
+    if (a->name != b->name || !equalExceptLastDigits(a->value, b->value)) {
       return false;
     }
   }
   return true;
 }
 
-/// Members in order, so that duplicate names are compared too.
-bool sameButForLastDigits(const Value& left, const Value& right) {
+/// Compares members in order, so that duplicate names are compared too.
+bool equalExceptLastDigits(const Value& left, const Value& right) {
   if (left.GetType() != right.GetType()) {
     return false;
   }
@@ -67,16 +67,16 @@ bool sameButForLastDigits(const Value& left, const Value& right) {
   return left.IsNumber() ? sameNumber(left, right) : left == right;
 }
 
-bool holdsDouble(const Value& value) {
+bool containsDouble(const Value& value) {
   if (value.IsObject()) {
     for (const auto& member : value.GetObject()) {
-      if (holdsDouble(member.value)) {
+      if (containsDouble(member.value)) {
         return true;
       }
     }
   } else if (value.IsArray()) {
     for (const Value& element : value.GetArray()) {
-      if (holdsDouble(element)) {
+      if (containsDouble(element)) {
         return true;
       }
     }
@@ -84,8 +84,8 @@ bool holdsDouble(const Value& value) {
   return value.IsDouble();
 }
 
-/// The text of a document without the white space outside its strings.
-std::string withoutWhiteSpace(const std::string& text) {
+/// Removes the whitespace outside the strings of a document.
+std::string withoutWhitespace(const std::string& text) {
   std::string tight;
   bool inString = false;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -101,12 +101,12 @@ std::string withoutWhiteSpace(const std::string& text) {
   return tight;
 }
 
-/// The text of a document with half of the spaces that each line begins with.
+/// Halves the indentation of each line.
 std::string withHalfIndentation(const std::string& text) {
   std::string halved;
   for (const std::string& line : linesOf(text)) {
     const std::size_t indentation = std::min(line.find_first_not_of(' '), line.size());
-    expect(indentation % 4 == 0, "the screen is indented by four spaces a level");
+    expect(indentation % 4 == 0, "a display is indented by four spaces per level");
     halved += line.substr(indentation / 2) + '\n';
   }
   halved.pop_back();
@@ -116,24 +116,24 @@ std::string withHalfIndentation(const std::string& text) {
 void tryText(const std::string& text) {
   Document document;
   if (!loadText(text, document)) {
-    expect(document.IsNull(), "a failed load leaves the document as it was");
+    expect(document.IsNull(), "a failed load leaves the document unchanged");
     return;
   }
   const std::string compact = valueToText(document, false);
   const std::string pretty = valueToText(document, true);
   const std::string saved = savedText(document);
-  expect(withoutWhiteSpace(pretty) == compact, "a pretty text is the compact one with white space");
-  expect(withHalfIndentation(pretty) == saved, "a file is the pretty text with half of its indentation");
+  expect(withoutWhitespace(pretty) == compact, "the pretty text is the compact one with whitespace");
+  expect(withHalfIndentation(pretty) == saved, "a saved file is the pretty text with half its indentation");
   Document fromCompact;
   Document fromPretty;
   Document fromFile;
   expect(loadText(compact, fromCompact) && loadText(pretty, fromPretty) && loadText(saved, fromFile),
-         "each layout of a document loads");
+         "each format of a document loads");
   const std::string compactAgain = valueToText(fromCompact, false);
   expect(compactAgain == valueToText(fromPretty, false) && compactAgain == valueToText(fromFile, false),
-         "all layouts of a document load to the same");
-  expect(sameButForLastDigits(document, fromCompact), "a document loads again as it was");
-  expect(holdsDouble(document) || compactAgain == compact, "a document without fractions prints the same again");
+         "all formats of a document load as the same document");
+  expect(equalExceptLastDigits(document, fromCompact), "a saved document loads as the same document");
+  expect(containsDouble(document) || compactAgain == compact, "a document without fractions prints the same again");
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ class ScratchFolder {
  public:
   ScratchFolder() {
     std::string path = fs::temp_directory_path() / "kovalt-fuzz-XXXXXX";
-    expect(mkdtemp(path.data()) != nullptr, "a scratch folder can be made");
+    expect(mkdtemp(path.data()) != nullptr, "a scratch folder can be created");
     path_ = path;
     fs::current_path(path_);
   }

@@ -1,6 +1,6 @@
 #pragma once
 
-// The folder in which a target keeps the files of the input at hand.
+// The folder for the files of the current input.
 
 #include <map>
 #include <optional>
@@ -10,22 +10,22 @@
 
 namespace kovalt::fuzz {
 
-/// The content of every file of a folder, by name.
+/// The content of each file in a folder, by name.
 using Files = std::map<std::string, std::string>;
 
-/// Makes a fresh folder at the first call and the current one of the process; it is removed when the process ends.
+/// The first call creates the scratch folder and makes it the current folder. It is removed when the process exits.
 void enterScratchFolder();
 
-/// The files of the scratch folder.
+/// Returns the files of the scratch folder.
 Files readScratchFiles();
 
 /// Replaces all files of the scratch folder.
 void writeScratchFiles(const Files& files);
 
-/// What `loadDocument` makes of a file with this content.
+/// Loads a file with this content, as `loadDocument` does.
 bool loadText(const std::string& text, Document& document);
 
-/// What `writeDocument` leaves in a file.
+/// Returns the content of a file that `writeDocument` wrote.
 std::string savedText(const Document& document);
 
 }  // namespace kovalt::fuzz

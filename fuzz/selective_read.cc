@@ -1,5 +1,5 @@
-// Reads print the same bytes whether the load kept only what they can look at or the whole file. An input is a section
-// with one argument a line, all of them of reads, and the content of the file.
+// Reads print the same whether the load kept the whole document or only what they need. An input has a section with the
+// arguments of reads, one per line, and the content of the file.
 
 #include <string>
 #include <vector>
@@ -20,7 +20,7 @@ namespace {
 using test::capture;
 using test::Printed;
 
-/// Does what a call with these reads does, on the whole file.
+/// Does what a call with these reads does, but keeps the whole document.
 void readWholeFile(const ToolContext& context) {
   Document document;
   if (!loadDocument(context.filePath, document, false)) {
@@ -46,7 +46,7 @@ void tryInput(std::string input) {
   const Printed selective = capture([&] { expect(run(context), "a call that only reads succeeds"); });
   const Printed whole = capture([&] { readWholeFile(context); });
   expect(selective.output == whole.output && selective.errors == whole.errors,
-         "reads of what is kept print what reads of the whole file print");
+         "reads of a projection print the same as reads of the whole document");
 }
 
 }  // namespace

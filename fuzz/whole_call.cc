@@ -1,5 +1,5 @@
-// A whole call, from its arguments to its files, comes to one of the ends that the tool has, and changes no file but
-// the one that it works on. An input is a section with one argument a line, and up to two with the files "a" and "b".
+// A whole call returns, or exits in a documented way, and changes no file except its work file. An input has a section
+// with one argument per line, and up to two with the content of the files "a" and "b".
 
 #include <algorithm>
 #include <filesystem>
@@ -10,7 +10,7 @@
 
 #include "app/parse_arguments.h"
 #include "app/run.h"
-#include "fuzz/ends.h"
+#include "fuzz/early_exits.h"
 #include "fuzz/input.h"
 #include "fuzz/property.h"
 #include "fuzz/scratch_folder.h"
@@ -19,7 +19,7 @@
 namespace kovalt::fuzz {
 namespace {
 
-/// Whether a file of this name cannot stand outside of the scratch folder.
+/// Whether a file of this name is certainly in the scratch folder.
 bool staysInside(const std::string& name) {
   return name.find('/') == std::string::npos || (name.front() != '/' && name.find("..") == std::string::npos);
 }
@@ -28,12 +28,12 @@ bool holds(const std::vector<std::string>& arguments, std::initializer_list<cons
   return std::find_first_of(arguments.begin(), arguments.end(), wanted.begin(), wanted.end()) != arguments.end();
 }
 
-bool loadsAsNoObject(const std::string& text) {
+bool loadsAsAnotherType(const std::string& text) {
   Document document;
   return loadText(text, document) && !document.IsObject();
 }
 
-/// Whether a file is missing, was left as it was, or holds a document.
+/// Whether a file is missing, unchanged or a document.
 bool isWhole(const std::string& name, const Files& before, const Files& after) {
   const auto file = after.find(name);
   if (file == after.end() || (before.count(name) == 1 && before.at(name) == file->second)) {
@@ -43,55 +43,55 @@ bool isWhole(const std::string& name, const Files& before, const Files& after) {
   return loadText(file->second, document);
 }
 
-/// Only a file whose root is no object, or an edit of the root itself, can bring such a value into a merge or removal.
-bool mayMeetNoObject(const std::vector<std::string>& arguments, const Files& files) {
+/// Whether a merge or removal may work on a value that is not an object: the root of a file, or the result of an edit
+/// of the root.
+bool mayMeetAnotherType(const std::vector<std::string>& arguments, const Files& files) {
   return holds(arguments, {""}) ||
-         std::any_of(files.begin(), files.end(), [](const auto& file) { return loadsAsNoObject(file.second); });
+         std::any_of(files.begin(), files.end(), [](const auto& file) { return loadsAsAnotherType(file.second); });
 }
 
-bool isExplained(End end, const std::vector<std::string>& arguments, const Files& files) {
-  switch (end) {
-    case End::typeClash:
+bool isExplained(Exit kind, const std::vector<std::string>& arguments, const Files& files) {
+  switch (kind) {
+    case Exit::typeClash:
       return true;
-    case End::noObject:
-      return mayMeetNoObject(arguments, files);
-    case End::skippedStep:
+    case Exit::notAnObject:
+      return mayMeetAnotherType(arguments, files);
+    case Exit::skippedStep:
       break;
   }
   return holds(arguments, {"--removeAndClear", "-rmc"});
 }
 
-/// Runs a parsed command line. Returns false where it came to an early end, of which `arguments` and `files` show that
-/// it is none of the tool's defects.
+/// Runs a parsed command line. Returns false if it exited early, which `arguments` and `files` must explain.
 bool runsThrough(const ToolContext& context, const std::vector<std::string>& arguments, const Files& files) {
-  std::optional<End> end;
+  std::optional<Exit> earlyExit;
   bool badNumber = false;
   try {
     run(context);
-  } catch (const EarlyEnd& early) {
-    end = early.end;
+  } catch (const EarlyExit& early) {
+    earlyExit = early.kind;
   } catch (const std::invalid_argument&) {
     badNumber = true;
   } catch (const std::out_of_range&) {
     badNumber = true;
   }
   expect(!badNumber || holds(arguments, {"--addNumber", "-an", "--addArrayNumber", "-aan"}),
-         "only an addition of numbers ends for a bad number");
-  const bool early = end || badNumber;
-  expect(!early || readScratchFiles() == files, "a call that ends early leaves every file as it was");
-  expect(!end || isExplained(*end, arguments, files), "a call ends early only where it must");
+         "only an addition of numbers aborts for a bad number");
+  const bool early = earlyExit || badNumber;
+  expect(!early || readScratchFiles() == files, "a call that exits early changes no file");
+  expect(!earlyExit || isExplained(*earlyExit, arguments, files), "a call exits early only in documented cases");
   return !early;
 }
 
 void expectOtherFilesUntouched(const Files& before, Files after, const std::string& workFile) {
   for (const auto& [name, content] : before) {
     if (name != workFile) {
-      expect(after.count(name) == 1 && after[name] == content, "a call leaves other files as they were");
+      expect(after.count(name) == 1 && after[name] == content, "a call changes no other file");
     }
     after.erase(name);
   }
   after.erase(workFile);
-  expect(after.empty(), "a call makes no other file");
+  expect(after.empty(), "a call creates no other file");
 }
 
 void tryCall(const std::vector<std::string>& arguments, const Files& files) {
@@ -108,9 +108,9 @@ void tryCall(const std::vector<std::string>& arguments, const Files& files) {
   const Files after = readScratchFiles();
   const std::string workFile = std::filesystem::path(context.filePath).lexically_normal();
   expectOtherFilesUntouched(files, after, workFile);
-  expect(isWhole(workFile, files, after), "what a call saves is a document");
+  expect(isWhole(workFile, files, after), "a saved file is a document");
   if (context.editActions.empty() && context.removeActions.empty()) {
-    expect(after == files, "a call that only reads leaves its file as it was");
+    expect(after == files, "a call that only reads does not change its file");
   }
 }
 

@@ -1,4 +1,4 @@
-#include "fuzz/ends.h"
+#include "fuzz/early_exits.h"
 
 #include <string>
 
@@ -7,11 +7,11 @@
 
 namespace kovalt {
 
-// In place of the functions that end the program.
+// These definitions replace those of the tool.
 
-void exitWithFailure() { throw fuzz::EarlyEnd{fuzz::End::typeClash}; }
+void exitWithFailure() { throw fuzz::EarlyExit{fuzz::Exit::typeClash}; }
 
-void abortProcess() { throw fuzz::EarlyEnd{fuzz::End::skippedStep}; }
+void abortProcess() { throw fuzz::EarlyExit{fuzz::Exit::skippedStep}; }
 
 }  // namespace kovalt
 
@@ -19,7 +19,7 @@ namespace kovalt::fuzz {
 
 void throwForAssertion(const char* condition) {
   expect(condition == std::string("IsObject()"), std::string("the assertion ") + condition);
-  throw EarlyEnd{End::noObject};
+  throw EarlyExit{Exit::notAnObject};
 }
 
 }  // namespace kovalt::fuzz
