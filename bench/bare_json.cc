@@ -1,8 +1,8 @@
-// The least that RapidJSON needs for a file, with the same streams and buffers as the tool, to compare with.
-//   bare_json load FILE        parses it
-//   bare_json save FILE OUT    parses it and writes it, indented by two spaces
-//   bare_json display FILE     parses it and prints it the plain way, which copies the text twice: out of RapidJSON's
-//                              buffer, and into a line of output
+// The minimal work of RapidJSON on a file, with the same streams and buffers as the tool, as a reference.
+//   bare_json load FILE        parses FILE
+//   bare_json save FILE OUT    parses FILE and writes it to OUT, indented by two spaces
+//   bare_json display FILE     parses FILE and prints it in the obvious way, which copies the text twice: from
+//                              RapidJSON's buffer, and into a line of output
 
 #include <rapidjson/document.h>
 #include <rapidjson/filereadstream.h>

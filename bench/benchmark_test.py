@@ -1,4 +1,5 @@
-"""Tests the benchmark's scripts: its data, its judgements, and a whole quick run of tiny files. No time is judged."""
+"""Tests the scripts of the benchmark: their data, their checks of limits, and a quick run on tiny files. Checks no
+times."""
 
 import json
 import subprocess
@@ -104,7 +105,7 @@ class Judgement(unittest.TestCase):
         self.assertAlmostEqual(2, exponent(3, 12, 2))
 
     def test_the_options_fit_into_a_command_line(self):
-        # Linux gives arguments, their pointers and the environment a quarter of a stack of 8 MiB.
+        # Linux limits arguments, their pointers and the environment to a quarter of the stack of 8 MiB.
         for work in options.WORK:
             arguments = work.arguments(options.SIZES[-1])
             self.assertLess(sum(len(argument) + 1 + 8 for argument in arguments), 2_000_000, work.title)

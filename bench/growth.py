@@ -1,4 +1,4 @@
-"""Merges, array reads and concatenations over growing input, and beside jq."""
+"""Merges, array reads and concatenations of growing input, and compared with jq."""
 
 from make_data import make_growth
 from measuring import Call, as_json
@@ -34,7 +34,7 @@ def measure(m, record, peers):
 
 
 def flat_arrays(m, record, peers, size):
-    # Not of more elements: jq joins in quadratic time.
+    # Only the smallest size, because jq joins in quadratic time.
     for kind in ("numbers", "strings"):
         calls = [Call("Kovalt", f"{m.tool} --file {kind}{size}.json --readArray list")]
         calls += peers.jq_calls(f"{{jq}} -r '.list|map(tostring)|join(\" \")' {kind}{size}.json", rounds=1)

@@ -30,9 +30,9 @@ def measure(m, record, peers):
 
 
 def one_file(m, record, peers, kind, megabytes):
-    """All measurements of one file, which is kept no longer."""
+    """Makes all measurements of one file, and deletes it."""
     name, work = f"{kind}{megabytes}.json", title(kind, megabytes)
-    # The titles keep the sizes of a whole run; a quick one says that it is one.
+    # A quick run keeps the titles of a whole run. Its results say that it was quick.
     write_kind(m.folder / name, kind, int(megabytes * MEGABYTE / (100 if m.quick else 1)))
     read(m, record, peers, name, kind, work, megabytes)
     load(m, record, name, work)
@@ -52,7 +52,7 @@ def read(m, record, peers, name, kind, work, megabytes):
     if megabytes == SIZES[0]:
         calls += peers.debian("jshon", f"jshon -F {name} -e meta -e version", rounds=3)
     m.check_answers(calls)
-    # Not checked before, because they take long.
+    # Added after the check of the answers, because they are slow.
     if megabytes == SIZES[0]:
         calls += peers.debian("gron", f"gron {name}", rounds=1)
         calls += peers.debian("yq", f"yq .meta.version {name}", rounds=1)
@@ -62,7 +62,7 @@ def read(m, record, peers, name, kind, work, megabytes):
 
 
 def load(m, record, name, work):
-    # A removal of a member of the root that is not there loads the document as an edit does, and nothing is saved.
+    # The removal of a missing member loads the document like an edit but does not save it.
     loading = f"{m.tool} --file {name} --remove none --read meta.version"
     saved = (m.folder / name).stat().st_mtime_ns
     m.check_answers([Call("Kovalt", loading)], expected=b"1")
@@ -115,7 +115,7 @@ def display(m, record, peers, name, kind, work, megabytes):
 
 
 def same_documents(m, *names):
-    """Ends the benchmark unless the files hold the same value: RapidJSON writes some numbers with more digits."""
+    """Exits unless the files contain the same value. RapidJSON writes some numbers with more digits than the tool."""
     texts = [(m.folder / name).read_bytes() for name in names]
     if texts[0] != texts[1] and json.loads(texts[0]) != json.loads(texts[1]):
         raise SystemExit(f"{names[0]} and {names[1]} are different documents")
@@ -131,11 +131,11 @@ def complete(m, record, name, work):
 
 
 def other_reads(m, record, peers, name, work):
-    """Without bounds, beside the bare parse."""
+    """Compares other reads with the parse of RapidJSON alone, without limits."""
     items = json.loads((m.folder / name).read_bytes())["items"]
     counts = Counter(f"{item['id']} {item['name']}" for item in items)
+    # The tool sorts by the bytes of UTF-8, Python by code points: the order is the same.
     concatenated = " ".join(text + (f"({count})" if count > 1 else "") for text, count in sorted(counts.items()))
-    # In bytes, as the tool sorts, and so is the code of the letters.
     selected, last = f"items.name={LAST}.id", items[-1]["id"]
     several = json.dumps({"meta.version": "1", "meta": '{"version":1}', selected: str(last)}, indent=4)
     for reading, arguments, expected in (

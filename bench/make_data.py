@@ -1,7 +1,7 @@
-"""Makes the benchmark's input files, the same bytes every time.
+"""Makes the input files of the benchmark, with the same bytes every time.
 
-Large files come in five kinds. Each is one object with the array `items` of objects that have a number `id` and a text
-`name`, and after it the object `meta`, so that `meta.version` stands at the end of the file.
+There are five kinds of large files. Each is an object with the array `items`, whose objects have a number `id` and a
+string `name`, and after it the object `meta`, so that `meta.version` is at the end of the file.
 """
 
 import json
@@ -10,7 +10,7 @@ from pathlib import Path
 
 SEED = 20261121
 MEGABYTE = 1_000_000
-#: A file repeats so many bytes of distinct elements, more than a processor's caches hold, until it has its size.
+#: A file repeats this many bytes of distinct elements, more than the caches of a processor, up to its size.
 DISTINCT = 4 * MEGABYTE
 KINDS = {
     "records": "compact records",
@@ -19,7 +19,7 @@ KINDS = {
     "texts": "long texts",
     "coordinates": "coordinates",
 }
-#: The name of the last element, which no other has.
+#: The name of the last element, which is unique.
 LAST = "the-last"
 
 WORDS = ("größer", "Straße", "naïve", "Übermut", "jalapeño", "Ærø", "сообщение", "данные", "привет", "μετάφραση",
@@ -46,7 +46,7 @@ def record(number, rng):
 
 
 def category(number, rng, depth=0):
-    """A category with articles and the categories below it, fifteen objects and arrays deep."""
+    """Returns a category with articles and nested categories, fifteen objects and arrays deep."""
     articles = [{"id": rng.randrange(1 << 20), "name": f"article {rng.randrange(10_000)}", "stock": rng.randrange(500),
                  "price": {"amount": round(rng.random() * 900, 2), "currency": "EUR"}} for _ in range(2)]
     below = [category(rng.randrange(1 << 20), rng, depth + 1)] if depth < 6 else []
@@ -54,7 +54,7 @@ def category(number, rng, depth=0):
 
 
 def message(number, rng):
-    """As JSON text, because the escapes in it are to stay as they are."""
+    """Returns a message as JSON text, in order to choose its escapes."""
     words = rng.choices(WORDS, k=rng.randrange(10, 120))
     for position in range(rng.randrange(8), len(words), 8):
         words[position] += rng.choice(ESCAPES)
@@ -63,7 +63,7 @@ def message(number, rng):
 
 
 def feature(number, rng):
-    """An area with numbers of 15 digits for its corners."""
+    """Returns an area whose corners are numbers of 15 digits."""
     corners = [[float(f"{rng.uniform(10, 99):.13f}"), float(f"{rng.uniform(10, 90):.13f}")]
                for _ in range(rng.randrange(20, 200))]
     return {"id": number, "name": f"area-{number:07d}", "type": "Feature",
@@ -75,7 +75,7 @@ def compact(value):
 
 
 def laid_out(value, indent):
-    """The text of a value on a line of the array `items`."""
+    """Returns the indented text of a value in the array `items`."""
     return json.dumps(value, ensure_ascii=False, indent=indent).replace("\n", "\n" + 2 * indent * " ")
 
 
@@ -89,7 +89,7 @@ ELEMENTS = {
 
 
 def write_kind(path, kind, size):
-    """A file of about so many bytes."""
+    """Writes a file of about `size` bytes."""
     rng = random.Random(f"{SEED} {kind}")
     indent = {"laid_out": 2, "catalogue": 4}.get(kind, 0)
     outer, inner = ("\n" + indent * " ", "\n" + 2 * indent * " ") if indent else ("", "")
@@ -125,7 +125,7 @@ def make_small(folder: Path):
 
 
 def make_growth(folder: Path, size):
-    """What the growth of reads and merges is measured with."""
+    """Makes the files for the growth of reads and merges."""
     rng = random.Random(f"{SEED} growth {size}")
     write(folder / f"names_a{size}.json", {f"a{i}": i for i in range(size)})
     write(folder / f"names_b{size}.json", {f"b{i}": i for i in range(size)})
@@ -138,7 +138,7 @@ def make_growth(folder: Path, size):
 
 
 def make_options(folder: Path, size):
-    """What calls with so many options work on: an object at the root and one below, and arrays to select in."""
+    """Makes the files for calls with `size` options: an object at the root, one below it, and arrays to select in."""
     members = {f"k{i}": i for i in range(size)}
     write(folder / f"root{size}.json", members)
     write(folder / f"deep{size}.json", {"o": members})
@@ -150,5 +150,5 @@ if __name__ == "__main__":
     import sys
 
     if len(sys.argv) != 4 or sys.argv[1] not in KINDS:
-        sys.exit(f"make_data.py KIND MEGABYTES FILE, where KIND is one of: {' '.join(KINDS)}")
+        sys.exit(f"Usage: make_data.py KIND MEGABYTES FILE\nKIND is one of: {' '.join(KINDS)}")
     write_kind(Path(sys.argv[3]), sys.argv[1], int(float(sys.argv[2]) * MEGABYTE))

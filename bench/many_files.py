@@ -1,4 +1,4 @@
-"""Many small files, edited by one call each, several at a time, as the cookbook has it."""
+"""Edits many small files, with one call for each and several calls at a time, as in the cookbook."""
 
 import shlex
 
@@ -7,7 +7,7 @@ from measuring import Call, as_json
 
 GROUP = "Many files"
 WORK = "edit 1,000 files, 4 at a time"
-# The titles keep the number of a whole run.
+# A quick run keeps the title of a whole run.
 FILES = 1_000
 QUICK_FILES = 20
 AT_A_TIME = 4

@@ -1,4 +1,4 @@
-"""Runs programs and measures them: time and memory in turns, instructions, and whether the answers are equal."""
+"""Measures time and memory of programs in turns, counts their instructions, and checks that their answers are equal."""
 
 import json
 import math
@@ -23,20 +23,20 @@ def as_json(answer):
 
 @dataclass
 class Call:
-    """A program's call, as one shell-like line or as a list of arguments."""
+    """A call of a program: one line as for a shell, or a list of arguments."""
 
     program: str
     command: object
-    #: What prints its answer where the call itself does not; None where there is none that could be compared.
+    #: The command that prints the answer, if the call does not. None if no answer can be compared.
     answer: object = ""
-    #: Runs before each run and is not measured.
+    #: A command that runs before each run. It is not measured.
     prepare: str = ""
-    #: The tool may take at most so many times this call's time, or memory.
+    #: The limits for the tool, as multiples of this call's time and memory.
     time_bound: float = None
     memory_bound: float = None
-    #: Whether it is a measure to compare with, not a program that does the same for people.
+    #: Whether this is only a reference, not another program for the same task.
     reference: bool = False
-    #: Most rounds that it takes part in.
+    #: The greatest number of rounds for this call.
     rounds: int = 1000
 
     def arguments(self):
@@ -45,7 +45,7 @@ class Call:
 
 @dataclass
 class Samples:
-    """One figure a round of each."""
+    """The measurements of a call: for each round, one figure in each list."""
 
     seconds: list = field(default_factory=list)
     processor: list = field(default_factory=list)
@@ -53,12 +53,12 @@ class Samples:
 
 
 def exponent(smaller, larger, factor):
-    """The power of the size with which a cost grows."""
+    """Returns the power of the size with which a cost grows."""
     return math.log(larger / smaller) / math.log(factor)
 
 
 class Measuring:
-    """What runs programs in one folder."""
+    """Runs programs in a folder."""
 
     def __init__(self, build, folder, quick):
         self.folder = folder
@@ -70,13 +70,13 @@ class Measuring:
         self.time_call = str(build / "bench/time_call")
 
     def shell(self, command):
-        """Runs a line of shell, or a list of arguments, and gives its standard output."""
+        """Runs a line of shell or a list of arguments. Returns its standard output."""
         arguments = ["sh", "-c", command] if isinstance(command, str) else command
         return subprocess.run(arguments, cwd=self.folder, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
                               check=True).stdout
 
     def check_answers(self, calls, normal=one_line, expected=None):
-        """Ends the benchmark unless all calls give the same answer."""
+        """Exits unless all calls give the same answer."""
         first = expected
         for call in calls:
             if call.answer is None:
@@ -90,7 +90,7 @@ class Measuring:
                 raise SystemExit(f"{call.program} gives a different answer: {str(call.command)[:300]}")
 
     def run(self, call, runs=1):
-        """Median wall and processor seconds and the peak of memory in bytes."""
+        """Returns the medians of wall and processor time in seconds, and the peak memory in bytes."""
         with tempfile.NamedTemporaryFile(mode="r") as report:
             done = subprocess.run([self.time_call, report.name, str(runs)] + call.arguments(), cwd=self.folder,
                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
@@ -101,9 +101,10 @@ class Measuring:
         return statistics.median(seconds), statistics.median(processor), int(max(memory))
 
     def in_turns(self, calls, rounds, runs=1, patience=2.5):
-        """Samples of each call, one a round: as many rounds as asked for, but for calls that have used up the patience,
-        which is in seconds, or their own number of rounds. The first call, with which the others are compared, takes
-        part as long as any."""
+        """Returns the samples of each call. A call takes part in each round, until it has used up `patience`, in
+        seconds, or its own number of rounds. The first call, with which the others are compared, takes part while any
+        other does.
+        """
         samples = [Samples() for _ in calls]
         if self.quick:
             rounds, runs = min(rounds, 2), min(runs, 3)
@@ -122,11 +123,12 @@ class Measuring:
         return samples
 
     def instructions(self, command):
-        """Instructions of user code, which are the same in every run."""
+        """Returns the number of user-mode instructions, which is the same in every run."""
         arguments = shlex.split(command) if isinstance(command, str) else command
         with tempfile.NamedTemporaryFile(mode="r") as log:
             subprocess.run(
-                # The start of a process looks through its environment: an empty one makes the count repeatable.
+                # The start of a process reads its environment, so only one that is always the same makes counts
+                # repeatable.
                 ["env", "-i", f"PATH={os.environ['PATH']}", "valgrind", "--tool=callgrind",
                  "--callgrind-out-file=/dev/null", f"--log-file={log.name}"] + arguments,
                 cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
@@ -137,7 +139,7 @@ class Measuring:
 
 
 class Peers:
-    """The programs to compare with: those of Debian that are installed, and those of jq and jj that were named."""
+    """The programs to compare with: the installed ones of Debian, and the given versions of jq and jj."""
 
     def __init__(self, jq_paths, jj_paths):
         debian_jq = [shutil.which("jq")] if shutil.which("jq") else []
@@ -145,26 +147,26 @@ class Peers:
         self.jj = self._by_version(jj_paths)
         self.missing = [name for name in ("crudini", "gron", "jo", "jq", "jshon", "yq") if shutil.which(name) is None]
         for name in self.missing:
-            print(f"{name} is not installed and left out", file=sys.stderr)
+            print(f"{name} is not installed, so it is left out", file=sys.stderr)
 
     @staticmethod
     def _by_version(paths):
-        """Paths by the name and version that the program tells."""
+        """Returns the paths by the name and version that the programs print."""
         programs = {}
         for path in paths:
-            told = subprocess.check_output([path, "--version"]).decode()
-            name = re.match(r"\w+", told).group()
-            version = re.search(r"\d+(\.\d+)+", told)
+            printed = subprocess.check_output([path, "--version"]).decode()
+            name = re.match(r"\w+", printed).group()
+            version = re.search(r"\d+(\.\d+)+", printed)
             programs[f"{name} {version.group() if version else ''}".strip()] = shlex.quote(os.path.abspath(path))
         return programs
 
     def jq_calls(self, line, **options):
-        """One call for each jq; `{jq}` in the line stands for its path."""
+        """Returns a call for each jq, whose path replaces `{jq}` in the line."""
         return [Call(name, line.replace("{jq}", path), **options) for name, path in self.jq.items()]
 
     def jj_calls(self, line, **options):
         return [Call(name, line.replace("{jj}", path), **options) for name, path in self.jj.items()]
 
     def debian(self, name, line, label=None, **options):
-        """The call of a program of Debian, or none where it is not installed."""
+        """Returns a list of the call of a Debian program; empty if it is not installed."""
         return [] if name in self.missing else [Call(label or name, line, **options)]

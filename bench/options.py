@@ -1,4 +1,4 @@
-"""Thousands of options in one call, on the same objects."""
+"""Calls with thousands of options on the same objects."""
 
 import json
 import random
@@ -11,21 +11,21 @@ GROUP = "Options in one call"
 SINGLE = "One selection"
 SIZES = (2_000, 20_000, 40_000)
 QUICK_SIZES = (100, 400, 800)
-#: The works that the chart shows.
+#: The titles of the works in the chart.
 DRAWN = ("additions at the root", "reads at the root", "removals at the root", "selections by a number",
          "selections by a text")
-#: Elements of the array that one selection looks through.
+#: The number of elements that one selection searches.
 ELEMENTS = 100_000
 
 
 @dataclass
 class Work:
     title: str
-    #: The arguments for so many options.
+    #: Returns the arguments for a number of options.
     arguments: Callable
-    #: What the call prints, as a JSON value.
+    #: Returns the output of the call as a JSON value.
     expected: Callable
-    #: Whether the document would be displayed, where one read costs less.
+    #: Whether the call displays the document. An additional read avoids that cost when time is measured.
     displays: bool = False
 
 
@@ -70,7 +70,7 @@ def measure(m, record, _):
         make_options(m.folder, size)
     for work in WORK:
         if json.loads(m.shell([m.tool] + work.arguments(sizes[0]))) != work.expected(sizes[0]):
-            raise SystemExit(f"{work.title}: not what was expected")
+            raise SystemExit(f"{work.title}: unexpected output")
         quiet = ["-r", "k0"] if work.displays else []
         record.grow(GROUP, work.title, sizes,
                     lambda size, work=work, quiet=quiet: [m.tool] + work.arguments(size) + quiet)
@@ -78,7 +78,7 @@ def measure(m, record, _):
 
 
 def one_selection(m, record):
-    """The selection by a number beside that by a text, as a whole call, and without what the call takes anyway."""
+    """Compares a selection by a number with one by a string: as a whole call, and without the cost of loading."""
     size = ELEMENTS // (100 if m.quick else 1)
     make_options(m.folder, size)
     whole, alone = {}, {}
@@ -88,7 +88,7 @@ def one_selection(m, record):
         if m.shell([m.tool, "-f", name] + selection) != f"{size - 1}\n".encode():
             raise SystemExit("a selection gives a different answer")
         whole[kind] = m.instructions([m.tool, "-f", name] + selection)
-        # A removal of a member of the root that is not there loads all of the document, whatever is read.
+        # The removal of a missing member loads the whole document, whatever is read.
         load = [m.tool, "-f", name, "-rm", "none"]
         alone[kind] = m.instructions(load + selection) - m.instructions(load + ["-r", "none"])
     work = f"the last of {size:,} objects"

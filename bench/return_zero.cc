@@ -1,2 +1,2 @@
-// The least that a process costs, to compare start-up with.
+// The minimal cost of a process, as a reference for the start-up.
 int main() { return 0; }

@@ -1,9 +1,9 @@
 """Runs the benchmark: checks that the answers are equal, measures in turns, and writes the results as JSON, as Markdown
 and as charts.
 
-A time is the median of its rounds, and a ratio the median of the ratios of the rounds, each round compared with itself,
-so that a machine that changes its speed does not count. The time of growth is the processor's, which other programs
-disturb less. Instructions are counted by callgrind in user code and are repeatable.
+A time is the median over all rounds. A ratio is the median of the ratios within each round, so that changes in the
+speed of the machine do not matter. The growth is measured in processor time, which other programs disturb less.
+Instructions are counted by callgrind in user mode and are repeatable.
 """
 
 import argparse
@@ -55,7 +55,7 @@ def installed_versions():
 
 
 def commit(source):
-    """The commit that is measured, and whether files differ from it."""
+    """Returns the commit that is measured, and whether files differ from it."""
     try:
         known = subprocess.check_output(["git", "-C", source, "rev-parse", "--short=10", "HEAD"],
                                         stderr=subprocess.DEVNULL).decode().strip()
@@ -69,20 +69,21 @@ def main():
     parser = argparse.ArgumentParser(prog="scripts/bench", description=__doc__.split("\n\n")[0])
     parser.add_argument("build", type=Path, help=argparse.SUPPRESS)
     parser.add_argument("results", type=Path, help=argparse.SUPPRESS)
-    parser.add_argument("--quick", action="store_true", help="tiny files and few rounds, to try the benchmark itself")
-    parser.add_argument("--only", choices=PARTS, action="append", help="only this part; may be repeated")
+    parser.add_argument("--quick", action="store_true",
+                        help="use tiny files and few rounds, to test the benchmark itself")
+    parser.add_argument("--only", choices=PARTS, action="append", help="run only this part; may be repeated")
     parser.add_argument("--jq", metavar="PATH", action="append", default=[],
                         help="another jq to compare with; may be repeated")
     parser.add_argument("--jj", metavar="PATH", action="append", default=[],
                         help="a jj to compare with; may be repeated")
     arguments = parser.parse_args()
     build = arguments.build.resolve()
-    # Only a whole run stands for the version.
+    # Only a whole run is recorded for the version.
     results = build / "results" if arguments.quick or arguments.only else arguments.results
     results.mkdir(parents=True, exist_ok=True)
 
-    # Ended from outside, it still removes its files.
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended"))
+    # Removes the files also after SIGTERM.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("terminated"))
     start, load = time.monotonic(), os.getloadavg()[0]
     peers = Peers(arguments.jq, arguments.jj)
     folder = Path(tempfile.mkdtemp(prefix="kovalt-bench-"))

@@ -1,4 +1,4 @@
-"""Small calls, in which the start of the process is nearly everything."""
+"""Small calls, whose cost is almost only the start of the process."""
 
 from make_data import make_small
 from measuring import Call, as_json
@@ -57,7 +57,7 @@ def measure(m, record, peers):
 
 
 def check_edits(m, calls):
-    """The files that the edits leave must hold the same value."""
+    """Exits unless the edited files contain the same value."""
     first = None
     for call in calls:
         m.shell(call.arguments())

@@ -1,6 +1,6 @@
-// Runs a command several times, one after the other, and writes a line for each run: the seconds on the clock, the
-// seconds of the processor, and the bytes of memory at the peak. Small and static, because the peak of a process begins
-// with that of the process that started it.
+// Runs a command several times and writes a line for each run: the wall time and the processor time in seconds, and the
+// peak memory in bytes. Small and static, because the peak memory of a process includes that of its parent at the
+// start.
 //   time_call REPORT RUNS COMMAND [ARGUMENT]...
 
 #include <spawn.h>
@@ -18,7 +18,7 @@ double seconds(const timeval& time) {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
 }
 
-/// Runs the command and writes its line; false where it cannot be run or ends with anything but 0.
+/// Runs the command and writes its line. Returns false if it cannot be run or does not exit with status 0.
 bool runOnce(char* command[], std::FILE* report) {
   const auto start = std::chrono::steady_clock::now();
   pid_t process = 0;

@@ -10,7 +10,7 @@
 namespace kovalt::test {
 namespace {
 
-/// The candidates for the last word of a line, with "files" for file names.
+/// Returns the candidates for the last word of a line, or "files" for file names.
 std::vector<std::string> candidates(const std::vector<std::string>& line) {
   const Completion completion = completeEdit(line, line.size() - 1);
   if (completion.takesFile) {
@@ -25,7 +25,7 @@ std::vector<std::string> candidates(const std::vector<std::string>& line) {
 
 using Words = std::vector<std::string>;
 
-TEST(EditCommand, IsKnownWithAndWithoutItsFolder) {
+TEST(EditCommand, IsRecognisedByNameAndByPath) {
   EXPECT_TRUE(isEditCommand("kovalt-edit"));
   EXPECT_TRUE(isEditCommand("/usr/bin/kovalt-edit"));
   EXPECT_FALSE(isEditCommand("Kovalt"));
@@ -33,7 +33,7 @@ TEST(EditCommand, IsKnownWithAndWithoutItsFolder) {
   EXPECT_FALSE(isEditCommand(""));
 }
 
-TEST(CompleteEdit, OffersItsOwnOptionsInFrontOfTheFile) {
+TEST(CompleteEdit, OffersItsOwnOptionsBeforeTheFile) {
   EXPECT_EQ(candidates({"kovalt-edit", "-"}), (Words{"--create", "--help"}));
   EXPECT_EQ(candidates({"kovalt-edit", "--create"}), Words{"--create"});
   EXPECT_EQ(candidates({"kovalt-edit", "--h"}), Words{"--help"});
@@ -47,7 +47,7 @@ TEST(CompleteEdit, OffersFilesForTheFile) {
   EXPECT_EQ(candidates({"kovalt-edit", "--create", "-"}), Words{"files"});
 }
 
-TEST(CompleteEdit, OffersBehindTheFileWhatKovaltTakes) {
+TEST(CompleteEdit, OffersTheOptionsOfKovaltAfterTheFile) {
   const MemoryFile file;
   file.write(R"({"network":{"port":1},"flag":true})");
   EXPECT_EQ(candidates({"kovalt-edit", file.path(), "-rm"}), (Words{"-rm", "-rmc"}));
@@ -59,7 +59,7 @@ TEST(CompleteEdit, OffersBehindTheFileWhatKovaltTakes) {
   EXPECT_EQ(candidates({"kovalt-edit", "--create", file.path(), "--read", "network."}), Words{"network.port"});
 }
 
-TEST(CompleteEdit, CountsFromTheCursorAndNotFromTheEnd) {
+TEST(CompleteEdit, CompletesTheWordAtTheCursor) {
   const MemoryFile file;
   file.write(R"({"network":{"port":1}})");
   EXPECT_EQ(completeEdit({"kovalt-edit", file.path(), "-r", "n", "-rm", "x"}, 3).lines, Words{"network."});

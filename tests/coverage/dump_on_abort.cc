@@ -1,4 +1,4 @@
-// Part of the program where it counts its lines: keeps the counts of a call that ends by std::abort, too.
+// Linked into the program for coverage, to keep the counts of calls that abort.
 
 #include <csignal>
 
@@ -8,7 +8,7 @@ namespace {
 
 void dump(int /*signal*/) { __gcov_dump(); }
 
-// std::abort ends the process by the same signal again once the handler has returned.
+// When the handler returns, std::abort kills the process with the same signal.
 [[maybe_unused]] const auto previous = std::signal(SIGABRT, dump);
 
 }  // namespace

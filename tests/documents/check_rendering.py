@@ -2,7 +2,7 @@
 """Renders a manual page at 80 columns, in ASCII and in UTF-8, and fails if it is hard to read.
 
 Faults are lines that are too long, lists that are not aligned, paths that seem to end in two dots, characters that
-ASCII has to replace, and headings and examples that differ from the source.
+ASCII lacks, and headings and examples that differ from the source.
 """
 
 import argparse
@@ -12,7 +12,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-from run_examples import read_blocks
+from run_examples import HelpFormatter, read_blocks
 
 COLUMNS = 80
 INDENT = " " * 11
@@ -63,8 +63,8 @@ def faults(text, titles, examples, locale):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--source", required=True, type=Path, help="what the page is made from")
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=HelpFormatter)
+    parser.add_argument("--source", required=True, type=Path, help="the file that the page is made from")
     parser.add_argument("page", type=Path)
     arguments = parser.parse_args()
 

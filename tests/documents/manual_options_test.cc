@@ -13,7 +13,7 @@
 namespace kovalt::test {
 namespace {
 
-/// The name of an argument in the manual page.
+/// Returns the name of an argument in the manual page.
 std::string nameInManual(ArgumentKind kind) {
   static const std::map<ArgumentKind, std::string> names = {
       {ArgumentKind::keyPath, "_keypath_"},   {ArgumentKind::field, "_field_"}, {ArgumentKind::value, "_value_"},
@@ -22,7 +22,7 @@ std::string nameInManual(ArgumentKind kind) {
   return names.at(kind);
 }
 
-/// The arguments of an option as the manual page shows them.
+/// Returns the arguments of an option as the manual page shows them.
 std::string argumentsInManual(const Option& option) {
   std::string arguments = nameInManual(option.first);
   if (option.further.kind == ArgumentKind::none) {
@@ -37,7 +37,7 @@ std::string lineInManual(const Option& option) {
   return "*" + std::string(option.longForm) + "*, *" + std::string(option.shortForm) + "* " + argumentsInManual(option);
 }
 
-/// The lines of the page that begin the description of an option.
+/// Returns the lines of the page that introduce an option.
 std::vector<std::string> optionLinesOfManual() {
   std::ifstream source(KOVALT_MANUAL_SOURCE);
   std::vector<std::string> lines;

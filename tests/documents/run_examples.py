@@ -12,8 +12,8 @@ directory of its own. The last commands of both must print the same, or the same
 
 "$prefix" is the directory in which the tool is installed.
 
-A replacement of sudo needs no password: like sudo it closes all files but the standard streams, and then it runs the
-command as the same user.
+sudo is replaced by a script that needs no password: like sudo it closes all files except the standard streams, and then
+runs the command as the same user.
 """
 
 import argparse
@@ -158,8 +158,13 @@ def failures(path, blocks):
         previous = last
 
 
+class HelpFormatter(argparse.RawDescriptionHelpFormatter):
+    def add_usage(self, usage, actions, groups, prefix="Usage: "):
+        super().add_usage(usage, actions, groups, prefix)
+
+
 def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=HelpFormatter)
     parser.add_argument("--program", required=True, type=Path, help="the program that the document calls Kovalt")
     parser.add_argument("--examples", required=True, type=Path, help="the folder of the example files")
     parser.add_argument("--prefix", default="/usr", type=Path, help="the folder that the tool is installed in")

@@ -1,5 +1,5 @@
-// The memory of the program, counted and made to fail. The linker sends every call of the four functions here
-// (--wrap), those inside the C and C++ libraries too.
+// Counts the allocations of the program and makes them fail. The linker redirects every call of the four functions to
+// this file (--wrap), including those in the C and C++ libraries.
 
 #include <cerrno>
 #include <cstddef>
@@ -23,18 +23,18 @@ void* __wrap_aligned_alloc(std::size_t alignment, std::size_t size);
 
 namespace {
 
-/// The number in an environment variable, or 0.
+/// Returns the number in an environment variable, or 0.
 std::int64_t numberIn(const char* variable) {
   const char* text = std::getenv(variable);
   return text == nullptr ? 0 : std::strtoll(text, nullptr, 10);
 }
 
-/// How many calls there were since the program's own start: the C library ends in its ways when it cannot even start.
+/// The number of calls since the program itself started. The start of the C library is not tested.
 std::int64_t calls = 0;
 bool started = false;
 
-/// Whether the call that now begins is one of those that fail: KOVALT_TEST_FAIL_FROM is the number of the first,
-/// counted from 1, KOVALT_TEST_FAIL_COUNT how many follow each other, without end if it is 0.
+/// Counts a call, and returns whether it fails. KOVALT_TEST_FAIL_FROM is the number of the first call that fails,
+/// counted from 1. KOVALT_TEST_FAIL_COUNT is the number of consecutive calls that fail; 0 means all.
 bool fails() {
   static const std::int64_t first = numberIn("KOVALT_TEST_FAIL_FROM");
   static const std::int64_t count = numberIn("KOVALT_TEST_FAIL_COUNT");
@@ -49,7 +49,7 @@ bool fails() {
   return failing;
 }
 
-/// Begins the count, and leaves it in the file that KOVALT_TEST_COUNT_FILE names, when the program ends by itself.
+/// Starts the count, and writes it to the file KOVALT_TEST_COUNT_FILE when the program exits.
 struct Counter {
   Counter() noexcept { started = true; }
   Counter(const Counter&) = delete;

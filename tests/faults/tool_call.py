@@ -1,4 +1,4 @@
-"""One call of the program in a fresh folder: what it is given and what it leaves."""
+"""Runs the program in a fresh folder, and checks the result."""
 
 import os
 import pathlib
@@ -9,14 +9,14 @@ import sys
 import tempfile
 from dataclasses import dataclass, field
 
-# Far above what any call takes; one that reaches it hangs.
+# In seconds. A call that takes longer hangs.
 TIME_LIMIT = 60
 NOBODY = 65534
 
 
 @dataclass
 class Outcome:
-    """How a call ended: `status` is the exit status, or minus the number of the signal that ended it."""
+    """The result of a call. `status` is the exit status, or minus the number of the signal that killed it."""
 
     status: int
     output: bytes
@@ -25,7 +25,7 @@ class Outcome:
 
 
 class Folder:
-    """A fresh folder, which all users may enter, removed at the end of a with block."""
+    """A fresh folder, which every user may enter. The end of the with block removes it."""
 
     def __enter__(self):
         self.path = pathlib.Path(tempfile.mkdtemp(prefix="kovalt-"))
@@ -44,8 +44,8 @@ class Folder:
 
     def run(self, command, *, limits=(), environment=None, as_nobody=False, closed=(), stdout=subprocess.PIPE,
             ignore=()):
-        """Runs a command here. `limits` are pairs of a resource and a number, `closed` are descriptors that it finds
-        closed, `ignore` are signals that it finds ignored."""
+        """Runs a command in the folder. `limits` are pairs of a resource and a number, `closed` are descriptors to
+        close for it, and `ignore` are signals to ignore."""
 
         def prepare():
             import resource
@@ -67,8 +67,8 @@ class Folder:
 
 
 def arguments():
-    """The program that the command line names, and whether only the quick part of a script is wanted. With --help, prints
-    the usage and exits."""
+    """Returns the program of the command line, and whether --quick was given. With --help, prints the usage and exits.
+    """
     if "--help" in sys.argv:
         print(sys.modules["__main__"].__doc__)
         sys.exit()
@@ -78,7 +78,7 @@ def arguments():
 
 
 def call(command, files, **how):
-    """Runs a command in a fresh folder that holds `files`."""
+    """Runs a command in a fresh folder that contains `files`."""
     with Folder() as folder:
         folder.put(files)
         return folder.run(command, **how)
@@ -110,5 +110,5 @@ def shown(thing):
 
 
 def figure(name, value):
-    """Prints a line that scripts/prove takes as a figure."""
+    """Prints a line that scripts/prove records as a figure."""
     print(f"FIGURE\t{name}\t{value}")

@@ -1,4 +1,4 @@
-"""Instruction counts of calls, which are the same in every run."""
+"""Counts the instructions of calls. The counts are the same in every run."""
 
 import os
 import re
@@ -6,10 +6,10 @@ import subprocess
 
 
 def instructions(program, arguments, folder="."):
-    """The number of instructions of user code in a call of `program` in `folder`. The environment is empty, because the
-    start of every process looks through it."""
+    """Returns the number of user-mode instructions of a call of `program` in `folder`. The environment contains only
+    PATH, because the start of a process reads it."""
     call = ["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null", os.path.abspath(program), *arguments]
     report = subprocess.run(call, cwd=folder, env={"PATH": os.environ["PATH"]}, stdout=subprocess.DEVNULL,
                             stderr=subprocess.PIPE, check=True).stderr
-    # The call itself may report something before.
+    # The last match, because the call itself may print on standard error before.
     return int(re.findall(rb"Collected : (\d+)", report)[-1])
