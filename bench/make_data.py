@@ -14,8 +14,8 @@ MEGABYTE = 1_000_000
 DISTINCT = 4 * MEGABYTE
 KINDS = {
     "records": "compact records",
-    "laid_out": "records laid out with blanks",
-    "catalogue": "a deep catalogue laid out with blanks",
+    "laid_out": "indented records",
+    "catalogue": "a deep indented catalogue",
     "texts": "long texts",
     "coordinates": "coordinates",
 }

@@ -21,7 +21,7 @@ elseif(CMAKE_SYSTEM_PROCESSOR STREQUAL aarch64)
 endif()
 
 # Not every C library has start-up code for a static position-independent program. The relocations of such a program are
-# packed, because applying unpacked ones takes as long as the rest of the start. A linker that cannot pack them warns.
+# packed, because unpacked ones add a fifth to the instructions of its start. A linker that cannot pack them warns.
 check_linker_flag(CXX -static-pie KOVALT_STATIC_PIE)
 check_linker_flag(CXX "-static-pie;-Wl,--fatal-warnings,-z,pack-relative-relocs" KOVALT_PACKED_RELOCATIONS)
 target_link_options(
