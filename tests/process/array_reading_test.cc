@@ -7,7 +7,7 @@
 namespace kovalt::test {
 namespace {
 
-/// An array read with `option` of the member a, in a file that holds `content`.
+/// An array read with `option` of the member a, in a file that contains `content`.
 ToolCall arrayRead(const std::string& name, const std::string& content, const std::string& option) {
   return ToolCall(name).given("f.json", content).call({"-f", "f.json", option, "a"});
 }
@@ -30,10 +30,13 @@ std::vector<ToolCall> rows() {
       arrayRead("escaped_quote_exposes_a_comma", R"({"a":["a\"b,c","d"]})", "-ras").printsLine(R"("a\"b c","d")"),
       arrayRead("escaped_quote_is_removed_and_its_backslash_stays", R"({"a":["a\"b,c","d"]})", "-rasq")
           .printsLine(R"(a\b c,d)"),
+      arrayRead("escaped_quotes_expose_the_comma_between_them", R"({"a":["a,\"b,\",c","d"]})", "-ras")
+          .printsLine(R"("a,\"b \",c" "d")"),
+      arrayRead("escaped_backslash_before_a_quote", R"({"a":["a\\","b"]})", "-ras").printsLine(R"("a\\" "b")"),
       arrayRead("escapes_stay_by_commas", R"({"a":["a\"b,c","\n\\\u0001"]})", "-rac")
           .printsLine(R"("a\"b,c","\n\\\u0001")"),
 
-      // The text decides whether a value is an array.
+      // A value whose text is in brackets is treated as an array.
       arrayRead("string_in_brackets_by_spaces", R"({"a":"[x,y]"})", "-ras").printsLine("x y"),
       arrayRead("string_in_brackets_by_commas", R"({"a":"[x,y]"})", "-rac").printsLine("x,y"),
       arrayRead("string_with_one_bracket", R"({"a":"["})", "-ra").printsLine("["),
@@ -41,6 +44,8 @@ std::vector<ToolCall> rows() {
       arrayRead("string_without_the_first_bracket", R"({"a":"x,y]"})", "-ra").printsLine("x,y]"),
       arrayRead("last_comma_becomes_a_space_without_quotes", R"({"a":"[x,]"})", "-ras").printsLine("x "),
       arrayRead("last_comma_stays_after_quotes", R"({"a":"[\"x\",y,]"})", "-ras").printsLine(R"(\"x\" y,)"),
+      arrayRead("quote_at_the_end", R"({"a":"[1,2,\"]"})", "-ras").printsLine(R"(1 2 \")"),
+      arrayRead("apostrophes_do_not_quote", R"({"a":"['b,c']"})", "-ras").printsLine("'b c'"),
       arrayRead("string", R"({"a":"say \"x,y\""})", "-rasq").printsLine(R"(say \"x,y\")"),
       arrayRead("object", R"({"a":{"a":1,"b":["x","y"]}})", "-rasq").printsLine(R"({"a":1,"b":["x","y"]})"),
       arrayRead("number", R"({"a":7.0})", "-ras").printsLine("7.0"),

@@ -1,4 +1,4 @@
-// What a merge of two contents gives: objects, arrays, scalars and clashing types.
+// Merges of objects, arrays and scalars, and of clashing types.
 
 #include "document_rows.h"
 #include "messages.h"
@@ -12,7 +12,7 @@ ToolCall merging(const std::string& name, const std::string& target, const std::
   return changed(name, target, "--addFile s.json", merged).given("s.json", source);
 }
 
-/// A file with `source` is merged into the document `target`, and two types meet under the name `key`.
+/// A file with `source` is merged into the document `target`, and two types clash under the name `key`.
 ToolCall clashingFile(const std::string& name, const std::string& target, const std::string& source,
                       const std::string& key) {
   return clashing(name, target, "--addFile s.json", key).given("s.json", source);
@@ -51,14 +51,27 @@ std::vector<ToolCall> merged() {
       merging("dot_in_a_name", R"({"a":{"b":1}})", R"({"a.b":2})", R"({"a":{"b":1},"a.b":2})"),
       merging("equal_names_of_the_file_meet_each_other", R"({})", R"({"a":1,"l":[1],"b":2,"a":3,"l":[2]})",
               R"({"a":3,"l":[1,2],"b":2})"),
+      merging("equal_names_of_an_object_of_the_file_meet_each_other", R"({"o":{}})", R"({"o":{"a":1,"a":2}})",
+              R"({"o":{"a":2}})"),
+      merging("equal_names_of_a_new_object_receive_a_later_one", R"({})", R"({"o":{"a":1,"a":2},"o":{"a":3,"b":4}})",
+              R"({"o":{"a":3,"a":2,"b":4}})"),
       merging("equal_names_of_a_new_object_are_kept", R"({})", R"({"o":{"a":1,"a":2}})", R"({"o":{"a":1,"a":2}})"),
       ToolCall("first_of_equal_names_is_merged_into")
-          .given("f.json", R"({"a":1,"a":2})")
-          .given("s.json", R"({"a":3})")
-          .call("--file f.json --addFile s.json")
+          .given("f.json", R"({"a":1,"a":"x","l":[0],"l":[9]})")
+          .given("s.json", R"({"a":3,"l":[1],"l":[2]})")
+          .call("--file f.json --addFile s.json --read ''")
+          .printsLine(R"({"a":3,"a":"x","l":[0,1,2],"l":[9]})")
           .leaves("f.json", R"({
   "a": 3,
-  "a": 2
+  "a": "x",
+  "l": [
+    0,
+    1,
+    2
+  ],
+  "l": [
+    9
+  ]
 })"),
       ToolCall("first_of_equal_names_among_many")
           .given("one.json", "{\"o\":{" + many(40, "0") + many(40, "1") + "\"z\":0}}")

@@ -5,7 +5,7 @@
 namespace kovalt::test {
 namespace {
 
-/// A call on the file f.json whose removals count as a change: it is saved.
+/// A call on the file f.json whose removals count as a change, so that it is saved.
 ToolCall saved(const std::string& name, const std::string& before, const std::string& after) {
   return ToolCall(name).given("f.json", before).leaves("f.json", after);
 }
@@ -32,9 +32,10 @@ std::vector<ToolCall> removals() {
       // Steps to anything but an object are skipped: the next step is looked up in the same object.
       changed("step_to_a_string_is_skipped", R"({"a":"s","b":1})", "-rm a.b", R"({"a":"s"})"),
       changed("step_to_an_array_is_skipped", R"({"a":[{"b":1}],"b":1})", "-rm a.b", R"({"a":[{"b":1}]})"),
+      changed("empty_steps_are_skipped", R"({"a":{"b":1}})", "-rm a..b", R"({"a":{}})"),
       changed("missing_steps_are_skipped", R"({"x":{"k":1},"k":2})", "-rm no.x.no.k", R"({"x":{},"k":2})"),
-      changed("selections_are_member_names", R"({"id=1":{"k":2},"l":[{"id":1,"k":2}]})", "-rm id=1.k -rm l.id=1.k",
-              R"({"id=1":{},"l":[{"id":1,"k":2}]})"),
+      changed("selections_are_member_names", R"({"id=1":{"k":2},"l":[{"id":1,"k":2}],"id=2":3})",
+              "-rm id=1.k -rm l.id=1.k -rm id=2", R"({"id=1":{},"l":[{"id":1,"k":2}]})"),
 
       ToolCall("first_of_equal_names_is_removed")
           .given("f.json", R"({"a":1,"b":2,"a":3})")

@@ -13,6 +13,9 @@ std::vector<ToolCall> matches() {
       reading("integers_of_64_bits", R"({"l":[{"id":-9223372036854775808},{"id":18446744073709551615,"n":"x"}]})",
               "l.id=18446744073709551615.n")
           .printsLine("x"),
+      reading("negative_integer", R"({"l":[{"id":5},{"id":-5,"n":"x"}]})", "l.id=-5.n").printsLine("x"),
+      reading("first_digits_of_an_integer", R"({"l":[{"id":55}]})", "l.id=5").reports(notFound("id=5")),
+      reading("zero_is_not_an_empty_value", R"({"l":[{"id":0}]})", "l.id=").reports(notFound("id=")),
       reading("integer_with_a_sign", R"({"l":[{"id":5}]})", "l.id=+5").reports(notFound("id=+5")),
       reading("integer_with_a_leading_zero", R"({"l":[{"id":5}]})", "l.id=05").reports(notFound("id=05")),
       reading("double_is_not_an_integer", R"({"l":[{"id":7.0,"n":"x"}]})", "l.id=7.n").reports(notFound("id=7")),
@@ -30,12 +33,19 @@ std::vector<ToolCall> matches() {
       reading("string_with_other_letters", R"({"l":[{"id":"Ab"},{"id":"ab "}]})", "l.id=ab").reports(notFound("id=ab")),
       reading("string_like_a_boolean", R"({"l":[{"id":"true","n":1}]})", "l.id=true.n").printsLine("1"),
       reading("string_with_escapes", R"({"l":[{"id":"\u00e9\/","n":1}]})", "l.id=é/.n").printsLine("1"),
+      reading("string_with_the_escape_as_it_is_written", R"({"l":[{"id":"a\nb"}]})", R"(l.id=a\nb)")
+          .reports(notFound(R"(id=a\nb)")),
+      reading("string_that_begins_with_a_nul", R"({"l":[{"id":"\u0000b","n":1}]})", "l.id=.n").printsLine("1"),
       reading("string_with_a_nul", R"({"l":[{"id":"ab\u0000cd","n":1}]})", "l.id=ab.n").printsLine("1"),
 
       // Arrays match by any of their numbers and strings.
       reading("array_with_the_string", R"({"l":[{"tags":["blue","red"],"n":1}]})", "l.tags=red.n").printsLine("1"),
       reading("array_with_the_number", R"({"l":[{"tags":[22.0]},{"tags":[1,22],"n":1}]})", "l.tags=22.n")
           .printsLine("1"),
+      reading("array_with_both", R"({"l":[{"tags":["1",2],"n":1}]})", "l.tags=2.n").printsLine("1"),
+      reading("array_with_a_string_with_a_nul", R"({"l":[{"tags":["a\u0000b"],"n":1}]})", "l.tags=a.n").printsLine("1"),
+      reading("array_is_not_compared_as_text", R"({"l":[{"tags":[1,2]}]})", "l.tags=[1,2]")
+          .reports(notFound("tags=[1,2]")),
       reading("array_with_part_of_the_string", R"({"l":[{"tags":["reddish"]}]})", "l.tags=red")
           .reports(notFound("tags=red")),
       reading("array_with_other_items", R"({"l":[{"tags":[null,{},[],true,"red"],"n":1}]})", "l.tags=red.n")

@@ -1,4 +1,4 @@
-// Which arguments belong to a list of values, and how a single one is cut at commas.
+// Which arguments belong to a list of values, and how a single one is split at commas.
 
 #include "messages.h"
 #include "tool_call.h"
@@ -6,7 +6,7 @@
 namespace kovalt::test {
 namespace {
 
-/// A call that prints the document `added`.
+/// A call that reads the whole document, which is `added`.
 ToolCall listed(const std::string& name, const std::string& arguments, const std::string& added) {
   return ToolCall(name).call(arguments + " --read ''").printsLine(added);
 }
@@ -25,24 +25,25 @@ std::vector<ToolCall> rows() {
       ToolCall("empty_list_of_numbers_at_the_end").call("-r k --addArrayNumber k").printsLine("[]"),
       ToolCall("empty_list_of_booleans_at_the_end").call("-r k --addArrayBoolean k").printsLine("[]"),
 
-      // A single value is cut at its commas, several values are not.
+      // A single value is split at its commas, several values are not.
       listed("one_value", "-aa k x", R"({"k":["x"]})"),
-      listed("one_string_is_cut", "-aa k a,b,c", R"({"k":["a","b","c"]})"),
-      listed("one_value_of_numbers_is_cut", "-aan k 1,2,-3", R"({"k":[1,2,-3]})"),
-      listed("one_value_of_booleans_is_cut", "-aab k TRUE,0", R"({"k":[true,false]})"),
-      listed("one_value_before_an_option_is_cut", "-aa k a,b -as l m", R"({"k":["a","b"],"l":"m"})"),
-      listed("two_strings_are_not_cut", "-aa k a,b c,d", R"({"k":["a,b","c,d"]})"),
-      listed("two_numbers_are_not_cut", "-aan k 1,2 3", R"({"k":[1,3]})"),
-      listed("two_booleans_are_not_cut", "-aab k 1,0 1", R"({"k":[null,true]})").reports(rejected("[ 1,0 1 ]")),
+      listed("one_string_is_split", "-aa k a,b,c", R"({"k":["a","b","c"]})"),
+      listed("one_value_of_numbers_is_split", "-aan k 1,2,-3", R"({"k":[1,2,-3]})"),
+      listed("one_value_of_booleans_is_split", "-aab k TRUE,0", R"({"k":[true,false]})"),
+      listed("one_value_before_an_option_is_split", "-aa k a,b -as l m", R"({"k":["a","b"],"l":"m"})"),
+      listed("two_strings_are_not_split", "-aa k a,b c,d", R"({"k":["a,b","c,d"]})"),
+      listed("two_numbers_are_not_split", "-aan k 1,2 3", R"({"k":[1,3]})"),
+      listed("two_booleans_are_not_split", "-aab k 1,0 1", R"({"k":[null,true]})").reports(rejected("[ 1,0 1 ]")),
 
       // Empty pieces are kept, but none follows the last comma.
       listed("comma_at_each_place", "-aa k ,a,,b,", R"({"k":["","a","","b"]})"),
       listed("lone_comma", "-aa k ,", R"({"k":[""]})"),
+      listed("two_commas_at_the_end", "-aa k a,,", R"({"k":["a",""]})"),
       listed("comma_after_the_last_number", "-aan k 1,2,", R"({"k":[1,2]})"),
       listed("empty_piece_of_booleans", "-aab k 1,,0", R"({"k":[true,null,false]})").reports(rejected("[ 1  0 ]")),
       ToolCall("empty_piece_of_numbers").call("-aan k 1,,2").aborts(),
 
-      // Nothing else cuts, and nothing protects a comma.
+      // No other character separates values, and none protects a comma.
       listed("other_separators", "-aa k 'a b;c|d=e-f'", R"({"k":["a b;c|d=e-f"]})"),
       listed("ends_of_lines", "-aa k a\nb,c", R"({"k":["a\nb","c"]})"),
       listed("backslash", R"(-aa k a\,b)", R"({"k":["a\\","b"]})"),

@@ -9,7 +9,7 @@
 namespace kovalt::test {
 namespace {
 
-/// Both kinds of blocks, where the compiler knows both.
+/// Both kinds of blocks, if the compiler supports both.
 template <typename Block>
 class CharacterBlocks : public testing::Test {};
 
@@ -24,7 +24,7 @@ bool isUnescapedCode(int code) { return code >= 0x20 && code != '"' && code != '
 
 bool isWhitespaceCode(int code) { return code == ' ' || code == '\n' || code == '\r' || code == '\t'; }
 
-/// A text in memory of its own, so that a sanitizer sees a look beyond the last whole block.
+/// A text in its own memory, so that a sanitizer reports a read after the last whole block.
 template <typename Block>
 std::string inBlocks(std::string text) {
   text.resize(text.size() + Block::kSize);
@@ -32,24 +32,24 @@ std::string inBlocks(std::string text) {
   return text;
 }
 
-TYPED_TEST(CharacterBlocks, EndAtEachCharacterThatEndsThemWhereverItStands) {
+TYPED_TEST(CharacterBlocks, FindTheEndOfARunOfEachLength) {
   for (int code = 0; code < 256; ++code) {
     for (std::size_t length = 0; length < 40; ++length) {
       const auto character = static_cast<char>(code);
-      const std::string plain = inBlocks<TypeParam>(std::string(length, 'a') + character);
-      const std::string blanks = inBlocks<TypeParam>(std::string(length, ' ') + character);
-      EXPECT_EQ(static_cast<std::size_t>(endOfUnescaped<TypeParam>(plain.data()) - plain.data()),
+      const std::string unescaped = inBlocks<TypeParam>(std::string(length, 'a') + character);
+      const std::string spaces = inBlocks<TypeParam>(std::string(length, ' ') + character);
+      EXPECT_EQ(static_cast<std::size_t>(endOfUnescaped<TypeParam>(unescaped.data()) - unescaped.data()),
                 length + (isUnescapedCode(code) ? 1 : 0))
           << code;
-      EXPECT_EQ(endOfShortUnescaped<TypeParam>(plain.data()), endOfUnescaped<TypeParam>(plain.data())) << code;
-      EXPECT_EQ(static_cast<std::size_t>(endOfWhitespace<TypeParam>(blanks.data()) - blanks.data()),
+      EXPECT_EQ(endOfShortUnescaped<TypeParam>(unescaped.data()), endOfUnescaped<TypeParam>(unescaped.data())) << code;
+      EXPECT_EQ(static_cast<std::size_t>(endOfWhitespace<TypeParam>(spaces.data()) - spaces.data()),
                 length + (isWhitespaceCode(code) ? 1 : 0))
           << code;
     }
   }
 }
 
-TYPED_TEST(CharacterBlocks, GoOnOverEachCharacterOfTheirKindWhateverStandsBesideIt) {
+TYPED_TEST(CharacterBlocks, FindTheEndWhateverTheNextCharacterIs) {
   for (int code = 0; code < 256; ++code) {
     const std::string pair = {static_cast<char>(code), static_cast<char>(code ^ 1)};
     for (const int other : {code, code ^ 1}) {
@@ -59,21 +59,21 @@ TYPED_TEST(CharacterBlocks, GoOnOverEachCharacterOfTheirKindWhateverStandsBeside
       }
       texts[5] = static_cast<char>(other);
       const std::string text = inBlocks<TypeParam>(texts);
-      std::size_t plain = 0;
-      std::size_t blanks = 0;
-      while (isUnescapedCode(static_cast<unsigned char>(text[plain]))) {
-        ++plain;
+      std::size_t unescaped = 0;
+      std::size_t spaces = 0;
+      while (isUnescapedCode(static_cast<unsigned char>(text[unescaped]))) {
+        ++unescaped;
       }
-      while (isWhitespaceCode(static_cast<unsigned char>(text[blanks]))) {
-        ++blanks;
+      while (isWhitespaceCode(static_cast<unsigned char>(text[spaces]))) {
+        ++spaces;
       }
-      EXPECT_EQ(endOfUnescaped<TypeParam>(text.data()), text.data() + plain) << code;
-      EXPECT_EQ(endOfWhitespace<TypeParam>(text.data()), text.data() + blanks) << code;
+      EXPECT_EQ(endOfUnescaped<TypeParam>(text.data()), text.data() + unescaped) << code;
+      EXPECT_EQ(endOfWhitespace<TypeParam>(text.data()), text.data() + spaces) << code;
     }
   }
 }
 
-TYPED_TEST(CharacterBlocks, AreCopiedInBlocksUpToEachCharacterThatEndsThem) {
+TYPED_TEST(CharacterBlocks, CopyUpToTheEndOfTheRun) {
   for (const char end : {'"', '\\', '\x1F', ' '}) {
     for (std::size_t size = TypeParam::kSize; size < 4 * TypeParam::kSize; ++size) {
       for (std::size_t place = 0; place < size; ++place) {
@@ -88,11 +88,11 @@ TYPED_TEST(CharacterBlocks, AreCopiedInBlocksUpToEachCharacterThatEndsThem) {
   }
 }
 
-TEST(CharacterBlock, IsCopiedUpToEachCharacterThatEndsIt) {
+TEST(CopyUnescaped, CopiesUpToTheEndOfTheRun) {
   for (int code = 0; code < 256; ++code) {
     for (std::size_t size = 1; size < 40; ++size) {
       for (std::size_t place = 0; place < size; ++place) {
-        // In memory of their own, so that a sanitizer sees a look before or after them.
+        // In their own memory, so that a sanitizer reports a read or write before or after them.
         std::vector<char> text(size, 'a');
         text[place] = static_cast<char>(code);
         std::vector<char> copy(size, '-');

@@ -1,4 +1,4 @@
-// Broken contracts abort in the builds that check them.
+// A broken contract aborts in builds that check contracts.
 
 #include "json/contract.h"
 
@@ -23,12 +23,12 @@ struct ContractRow : Row {
 
 std::vector<ContractRow> contractRows() {
   return {
-      {{"two_scanners_hold_the_cursor"},
+      {{"two_scanners_of_one_buffer"},
        [](InputBuffer& buffer) {
          const Scanner first(buffer);
          const Scanner second(buffer);
        }},
-      {{"the_reader_takes_the_cursor_of_a_scanner"},
+      {{"stream_and_scanner_of_one_buffer"},
        [](InputBuffer& buffer) {
          const Scanner scanner(buffer);
          const ReaderStream stream(buffer);
@@ -59,7 +59,7 @@ std::vector<ContractRow> contractRows() {
          stack.close();
          stack.close();
        }},
-      {{"more_pushed_than_there_is_room"},
+      {{"push_of_too_many_characters"},
        [](InputBuffer& /*buffer*/) {
          OutputStream stream(stdout);
          stream.Push(OutputStream::kShort + 1);
@@ -67,7 +67,7 @@ std::vector<ContractRow> contractRows() {
   };
 }
 
-TEST(ContractDeathTest, AbortsWhereAContractIsBroken) {
+TEST(ContractDeathTest, AbortsIfAContractIsBroken) {
   if (!kChecksContracts) {
     GTEST_SKIP() << "only builds with sanitizers check contracts";
   }

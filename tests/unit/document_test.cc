@@ -1,4 +1,4 @@
-// The settings of RapidJSON that the program counts on, in every kind of build.
+// The settings of RapidJSON that the program depends on, in every build.
 
 #include "json/document.h"
 
@@ -9,22 +9,22 @@
 namespace kovalt::test {
 namespace {
 
-TEST(DocumentDeathTest, ChecksThatAnObjectIsOne) {
+TEST(DocumentDeathTest, AssertsThatAValueIsAnObject) {
   const Value number(1);
   EXPECT_DEATH(number.MemberBegin(), "IsObject\\(\\)");
 }
 
-TEST(DocumentDeathTest, ChecksThatAnArrayIsOne) {
+TEST(DocumentDeathTest, AssertsThatAValueIsAnArray) {
   const Value text("a");
   EXPECT_DEATH(text.Begin(), "IsArray\\(\\)");
 }
 
-TEST(DocumentDeathTest, ChecksIndexes) {
+TEST(DocumentDeathTest, AssertsThatAnIndexIsInRange) {
   const Document array = parsed("[1]");
   EXPECT_DEATH(array[1].IsNull(), "index < ");
 }
 
-TEST(Document, TakesItsMemoryInChunks) {
+TEST(Document, AllocatesChunksOf64KiB) {
   Document document;
   document.SetObject();
   document.AddMember("name", "value", document.GetAllocator());

@@ -17,8 +17,7 @@
 namespace kovalt::test {
 namespace {
 
-/// How many numbers are tried of each exponent and of each count of digits: fewer under the sanitizers, where each
-/// takes long.
+/// The count of random numbers of each exponent and of each count of digits. Sanitizers make each of them slow.
 #ifndef __SANITIZE_ADDRESS__
 constexpr int kTries = 600;
 #else
@@ -35,7 +34,7 @@ std::string textOfRapidJson(double value) {
   return {text.data(), rapidjson::internal::dtoa(value, text.data())};
 }
 
-/// What a text says: its digits from the first to the last that is not zero, and the power of ten of the last.
+/// The digits of a number without zeros at the start and the end, and the power of ten of the last digit.
 struct Digits {
   std::string text;
   int power = 0;
@@ -65,15 +64,15 @@ double read(std::uint64_t number, int power) {
   return std::strtod((std::to_string(number) + "e" + std::to_string(power)).c_str(), nullptr);
 }
 
-/// Whether `value` is also what a number with one digit less reads as: the next below or the next above. When neither
-/// is, nothing shorter is.
+/// Whether a number with one digit less also reads as `value`: the next lower or the next higher one. If neither does,
+/// no shorter number does.
 bool readsFromFewer(const Digits& digits, double value) {
   const std::uint64_t below = std::stoull(digits.text) / 10;
   return digits.text.size() > 1 &&
          (read(below, digits.power + 1) == value || read(below + 1, digits.power + 1) == value);
 }
 
-/// Checks the text of one number above zero. Returns whether RapidJSON's is the same.
+/// Checks the text of a positive number. Returns whether RapidJSON writes the same.
 bool check(double value) {
   const std::string text = jsonOf(value);
   const std::string theirs = textOfRapidJson(value);
@@ -95,7 +94,7 @@ double fromBits(std::uint64_t exponent, std::uint64_t significand) {
   return value;
 }
 
-TEST(DoubleText, IsTheShortestOfNumbersOfEveryExponent) {
+TEST(DoubleText, IsShortestForEachExponent) {
   constexpr std::uint64_t kLastSignificand = (std::uint64_t{1} << 52) - 1;
   std::mt19937_64 random(1);
   int shortened = 0;
@@ -112,7 +111,7 @@ TEST(DoubleText, IsTheShortestOfNumbersOfEveryExponent) {
   EXPECT_GT(shortened, 0);
 }
 
-TEST(DoubleText, IsTheShortestOfDecimals) {
+TEST(DoubleText, IsShortestForDecimals) {
   std::mt19937_64 random(2);
   int shortened = 0;
   std::uint64_t limit = 1;
@@ -136,7 +135,7 @@ struct NumberRow : Row {
 
 class NumberText : public testing::TestWithParam<NumberRow> {};
 
-TEST_P(NumberText, IsAsWritten) {
+TEST_P(NumberText, IsAsExpected) {
   EXPECT_EQ(jsonOf(GetParam().value), GetParam().text);
   EXPECT_EQ(jsonOf(-GetParam().value), "-" + GetParam().text);
 }
@@ -147,17 +146,17 @@ INSTANTIATE_TEST_SUITE_P(
                     NumberRow{{"hundred"}, 100.0, "100.0"}, NumberRow{{"fraction"}, 0.1, "0.1"},
                     NumberRow{{"six_places"}, 176.359966, "176.359966"},
                     NumberRow{{"six_places_below_one"}, 0.412994, "0.412994"},
-                    NumberRow{{"not_the_closest_but_as_short"}, 0.1 + 0.2, "0.30000000000000007"},
+                    NumberRow{{"shortest_but_not_closest"}, 0.1 + 0.2, "0.30000000000000007"},
                     NumberRow{{"third"}, 1.0 / 3, "0.3333333333333333"},
                     NumberRow{{"fifteen_digits"}, 123456789.012345, "123456789.012345"},
                     NumberRow{{"sixteen_digits"}, 9876543210.123456, "9876543210.123456"},
                     NumberRow{{"seventeen_digits"}, 64.012345678901234, "64.01234567890124"},
-                    NumberRow{{"just_below_the_fast_way"}, 9.9e-8, "9.9e-8"},
-                    NumberRow{{"lowest_of_the_fast_way"}, 1e-7, "1e-7"},
+                    NumberRow{{"below_the_range_of_the_fast_path"}, 9.9e-8, "9.9e-8"},
+                    NumberRow{{"lowest_of_the_fast_path"}, 1e-7, "1e-7"},
                     NumberRow{{"last_with_an_exponent"}, 9.5e-7, "9.5e-7"},
                     NumberRow{{"first_without_an_exponent"}, 1e-6, "0.000001"},
-                    NumberRow{{"highest_of_the_fast_way"}, 999999999999999.0, "999999999999999.0"},
-                    NumberRow{{"just_above_the_fast_way"}, 1e15, "1000000000000000.0"},
+                    NumberRow{{"highest_of_the_fast_path"}, 999999999999999.0, "999999999999999.0"},
+                    NumberRow{{"above_the_range_of_the_fast_path"}, 1e15, "1000000000000000.0"},
                     NumberRow{{"longest"}, 1.2345678901234567e-6, "0.0000012345678901234568"},
                     NumberRow{{"last_exact_whole_number"}, 9007199254740992.0, "9007199254740992.0"},
                     NumberRow{{"twenty_one_digits"}, 123456789012345680000.0, "123456789012345680000.0"},

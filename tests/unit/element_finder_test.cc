@@ -1,4 +1,4 @@
-// Many selections in one document, which find what each of them finds alone.
+// Selections that use an index find what they find without one.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@
 namespace kovalt::test {
 namespace {
 
-/// Something to select an element by, from few enough to meet the same again; `odd` in a hundred are no such thing.
+/// Random elements of an array. Their values repeat often, and `odd` in a hundred cannot be selected.
 class Elements {
  public:
   explicit Elements(int odd) : odd_(odd) {}
@@ -70,10 +70,10 @@ std::string arrayOf(int size, Elements& elements) {
   return json + "]";
 }
 
-/// One in so many hundred elements ends a search.
+/// The parameter is how many elements in a hundred stop a search.
 class Selections : public testing::TestWithParam<int> {};
 
-TEST_P(Selections, FindAndPrintWhatEachFindsAlone) {
+TEST_P(Selections, FindAndReportWhatASearchWithoutAnIndexDoes) {
   for (const int size : {1, 32, 33, 200}) {
     Elements elements(GetParam());
     Document document = parsed(arrayOf(size, elements));
@@ -95,7 +95,7 @@ TEST_P(Selections, FindAndPrintWhatEachFindsAlone) {
   }
 }
 
-TEST_P(Selections, SeeWhatEditsChangedInTheElements) {
+TEST_P(Selections, SeeChangedElements) {
   Elements elements(GetParam());
   Document document = parsed(R"({"a":)" + arrayOf(150, elements) + "}");
   Lookups lookups;
@@ -119,6 +119,14 @@ TEST_P(Selections, SeeWhatEditsChangedInTheElements) {
 }
 
 INSTANTIATE_TEST_SUITE_P(ElementFinder, Selections, testing::Values(0, 1, 10));
+
+TEST(FindObjectByRef, ReportsANullArrayAsNotFound) {
+  const Value* found = nullptr;
+  const Printed printed = capture([&] { found = findObjectByRef(nullptr, "id", "a=b"); });
+  EXPECT_EQ(found, nullptr);
+  EXPECT_EQ(printed.errors, "Kovalt path not found with refKey=refValue \"id=a=b\"\n");
+  EXPECT_EQ(printed.output, "");
+}
 
 }  // namespace
 }  // namespace kovalt::test

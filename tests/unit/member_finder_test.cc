@@ -14,10 +14,10 @@
 namespace kovalt::test {
 namespace {
 
-/// Members of one object, and one finder that serves all questions about it.
+/// The members of one object, and one finder for all lookups in it.
 class FoundMembers : public testing::TestWithParam<int> {
  protected:
-  /// `GetParam()` names for all members, so that the fewer there are, the more are equal.
+  /// One of `GetParam()` names: the fewer there are, the more members have equal names.
   std::string anyName() { return "n" + std::to_string(number(GetParam())); }
   int number(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random_); }
 
@@ -28,8 +28,8 @@ class FoundMembers : public testing::TestWithParam<int> {
     finder.append(object(), name, value, allocator);
   }
 
-  /// Finds members, which is compared with a plain search, and now and then removes one.
-  void askAndRemove(int removalsInTen) {
+  /// Compares a lookup with a linear search, and sometimes removes a member.
+  void findAndRemove(int removalsInTen) {
     const std::string name = anyName();
     ASSERT_EQ(finder.find(object(), name), findMember(object(), name));
     if (number(10) >= removalsInTen) {
@@ -51,30 +51,30 @@ class FoundMembers : public testing::TestWithParam<int> {
   std::mt19937 random_{7};
 };
 
-TEST_P(FoundMembers, AreThoseOfAPlainSearchWhileTheObjectGrowsAndShrinks) {
+TEST_P(FoundMembers, EqualThoseOfALinearSearchWhileTheObjectGrowsAndShrinks) {
   for (int round = 0; round < 3; ++round) {
     for (int i = 0; i < 150; ++i) {
       append();
-      askAndRemove(0);
+      findAndRemove(0);
     }
     for (int i = 0; i < 250; ++i) {
-      askAndRemove(10);
+      findAndRemove(10);
     }
     for (int i = 0; i < 100; ++i) {
       append();
-      askAndRemove(3);
+      findAndRemove(3);
     }
   }
 }
 
-TEST_P(FoundMembers, AreThoseOfTheObjectThatTookThePlaceOfAnother) {
+TEST_P(FoundMembers, EqualThoseOfALinearSearchAfterTheObjectIsReplaced) {
   for (int round = 0; round < 5; ++round) {
     for (int i = 0; i < 100; ++i) {
       append();
-      askAndRemove(1);
+      findAndRemove(1);
     }
     object().SetObject();
-    askAndRemove(1);
+    findAndRemove(1);
   }
 }
 
@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(MemberFinder, FoundMembers, testing::Values(1, 2, 10, 1
 
 const TextHash kHash(0, 0);
 
-/// Two names whose hashes are equal in the 32 bits that an index keeps.
+/// Two names whose hashes agree in the 32 bits that an index stores.
 std::pair<std::string, std::string> equalHashes() {
   std::unordered_map<std::uint32_t, std::string> seen;
   for (int i = 0;; ++i) {
@@ -95,7 +95,7 @@ std::pair<std::string, std::string> equalHashes() {
   }
 }
 
-TEST(MemberFinder, TellsNamesWithEqualHashesApart) {
+TEST(MemberFinder, DistinguishesNamesWithEqualHashes) {
   const auto [one, other] = equalHashes();
   std::string json = R"({")" + one + R"(":1)";
   for (int i = 0; i < 50; ++i) {
@@ -109,19 +109,36 @@ TEST(MemberFinder, TellsNamesWithEqualHashesApart) {
   }
   Value name = copyText(other, document.GetAllocator());
   finder.append(document, name, Value(2).Move(), document.GetAllocator());
-  // Often enough for the index to get the appended member.
+  // Often enough for the index to contain the appended member.
   for (int i = 0; i < 50; ++i) {
     ASSERT_EQ(finder.find(document, other), &(document.MemberEnd() - 1)->value);
   }
   EXPECT_EQ(finder.find(document, one), &document.MemberBegin()->value);
 }
 
-TEST(MemberFinder, FindsNothingInWhatIsNoObject) {
+TEST(MemberFinder, FindsNothingInValuesThatAreNotObjects) {
   MemberFinder finder;
   for (const char* json : {"null", "1", "[1]", "{}", R"("a")"}) {
     Document document = parsed(json);
     EXPECT_EQ(finder.find(document, "a"), nullptr) << json;
+    EXPECT_EQ(findMember(document, "a"), nullptr) << json;
   }
+}
+
+TEST(FindMember, ReturnsTheFirstMemberInTheDocument) {
+  const Document document = parsed(R"({"b":0,"a":1,"a":2})");
+  EXPECT_EQ(findMember(document, "a"), &document.MemberBegin()[1].value);
+}
+
+TEST(FindMember, ComparesEveryByteOfTheNameAndNoByteAfterIt) {
+  const Document document = parsed(R"({"a\u0000c":1,"a\u0000b":2,"a":3,"":4})");
+  const std::string_view text("a\0b", 3);
+  for (const auto& [length, expected] : {std::pair(3U, 2), std::pair(1U, 3), std::pair(0U, 4)}) {
+    const Value* found = findMember(document, text.substr(0, length));
+    ASSERT_NE(found, nullptr) << length;
+    EXPECT_EQ(found->GetInt(), expected);
+  }
+  EXPECT_EQ(findMember(document, text.substr(0, 2)), nullptr);
 }
 
 }  // namespace

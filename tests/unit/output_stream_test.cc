@@ -16,7 +16,7 @@ struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-/// A stream into a file, next to the text that it should write there.
+/// A stream into a file, and the text that it must write.
 class OutputStreamText : public testing::Test {
  protected:
   void put(char character) {
@@ -65,7 +65,7 @@ class OutputStreamText : public testing::Test {
   std::string expected_;
 };
 
-TEST_F(OutputStreamText, IsWrittenWhole) {
+TEST_F(OutputStreamText, WritesRandomTexts) {
   std::mt19937 random(1);
   for (int i = 0; i < 50000; ++i) {
     const std::size_t length = random() % 70;
@@ -94,13 +94,13 @@ TEST_F(OutputStreamText, IsWrittenWhole) {
   checkWritten();
 }
 
-TEST_F(OutputStreamText, MayHaveOneRunOfSeveralPieces) {
+TEST_F(OutputStreamText, WritesRunsLongerThanTheBuffer) {
   putSpaces(200000);
   putString(std::string(200000, 'a') + "\\" + std::string(65536, 'b'));
   checkWritten();
 }
 
-TEST_F(OutputStreamText, EscapesEveryCharacterAsRapidJsonDoes) {
+TEST_F(OutputStreamText, EscapesEachCharacterAsRapidJsonDoes) {
   for (int character = 0; character < 256; ++character) {
     for (std::size_t before = 0; before < 40; ++before) {
       putString(std::string(before, 'a') + static_cast<char>(character));
@@ -110,12 +110,12 @@ TEST_F(OutputStreamText, EscapesEveryCharacterAsRapidJsonDoes) {
   checkWritten();
 }
 
-TEST_F(OutputStreamText, MayEndWhereAPieceEnds) {
+TEST_F(OutputStreamText, WritesAFullBuffer) {
   putSpaces(65536);
   checkWritten();
 }
 
-TEST_F(OutputStreamText, MayBeEmpty) { checkWritten(); }
+TEST_F(OutputStreamText, WritesNothing) { checkWritten(); }
 
 }  // namespace
 }  // namespace kovalt::test

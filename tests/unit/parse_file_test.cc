@@ -1,4 +1,5 @@
-// RapidJSON's reader takes the same out of a file through the stream here as through its own, and so do loads.
+// RapidJSON's reader gets the same from ReaderStream as from its own FileReadStream, and a load accepts what it
+// accepts.
 
 #include <gtest/gtest.h>
 #include <rapidjson/filereadstream.h>
@@ -15,13 +16,13 @@
 namespace kovalt::test {
 namespace {
 
-/// How much of a file is read at once.
-constexpr std::size_t kPiece = 8192;
+/// The size of the input buffer.
+constexpr std::size_t kBuffer = 8192;
 
-/// What a reader says to a text.
+/// The result of a reader.
 struct Outcome {
   rapidjson::ParseErrorCode error = rapidjson::kParseErrorNone;
-  std::size_t offset = 0;  ///< Of the error, or of what is left.
+  std::size_t offset = 0;  ///< Of the error, or of the rest of the text.
   bool isAtEnd = false;
   std::string text;
 };
@@ -36,7 +37,7 @@ std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
              << outcome.text;
 }
 
-/// Whether nothing is left of a stream, which stays in its place only there.
+/// Whether a stream is at its end: only there it does not advance.
 template <typename Stream>
 bool isAtEnd(Stream& stream) {
   const std::size_t offset = stream.Tell();
@@ -62,7 +63,7 @@ Outcome outcomeOf(Stream& stream) {
 
 std::FILE* openText(std::string& text) { return fmemopen(text.data(), text.size(), "r"); }
 
-/// What a load keeps of a file with this text.
+/// The part of a file with this text that a load keeps.
 std::string load(std::string& text, const Projection& projection) {
   std::FILE* file = openText(text);
   Document document;
@@ -71,10 +72,10 @@ std::string load(std::string& text, const Projection& projection) {
   return parsed ? valueToText(document, false) : "(refused)";
 }
 
-/// The stream and the loads must do with `text` what RapidJSON does through its own stream.
+/// Compares the stream and two loads of `text` with a parse through FileReadStream.
 void compare(std::string text) {
   std::FILE* file = openText(text);
-  std::string bytes(kPiece, '\0');
+  std::string bytes(kBuffer, '\0');
   rapidjson::FileReadStream rapidJsonStream(file, bytes.data(), bytes.size());
   const Outcome expected = outcomeOf(rapidJsonStream);
   std::fclose(file);
@@ -94,11 +95,11 @@ void compare(std::string text) {
   EXPECT_EQ(load(text, {}) != "(refused)", isOneValue) << shown;
 }
 
-/// The text with the end of the first or the second piece at each of its places.
-void compareAroundPieceEnds(const std::string& text) {
+/// Compares `text` with the end of the buffer at each of its bytes.
+void compareAroundBufferEnds(const std::string& text) {
   for (std::size_t inside = 0; inside <= text.size() + 1; ++inside) {
-    compare(std::string(kPiece - inside, ' ') + text);
-    compare(std::string(kPiece - inside, ' ') + text + std::string(kPiece, '\n'));
+    compare(std::string(kBuffer - inside, ' ') + text);
+    compare(std::string(kBuffer - inside, ' ') + text + std::string(kBuffer, '\n'));
   }
 }
 
@@ -108,7 +109,7 @@ const std::vector<std::string>& texts() {
       "{}",
       "[]",
       R"({"a":1,"bc":[true,false,null],"":{"d":-12.5e-3}})",
-      R"(["abc\ndefg\\hijklm\"nopqrs\u00e9tuvwxyz\ud83d\ude00\/\b\f\r\t", "plain text of some length", "\u0000"])",
+      R"(["abc\ndefg\\hijklm\"nopqrs\u00e9tuvwxyz\ud83d\ude00\/\b\f\r\t", "a text of some length", "\u0000"])",
       "[0,-0,1.5,-1e5,1E+5,1e-5,123456789012,12345678901234567890123,4294967295,4294967296,-2147483649]",
       "[18446744073709551615,18446744073709551616,-9223372036854775808,-9223372036854775809,0.1234567890123456789]",
       "[12345678,-123456789,123456789012345,-123456789012345,1234567890123456,12345678901234567,0.0,-0.0]",
@@ -125,7 +126,7 @@ const std::vector<std::string>& texts() {
       "[nulL,1]",
       "[fals",
       "[1e308,1e309,1]",
-      "\t\r\n {\n    \"laid\":\t\r\n    \"out\"  ,\n                                  \"far\" : [ ]\n}  \n\n",
+      "\t\r\n {\n    \"a\":\t\r\n    \"b\"  ,\n                                  \"c\" : [ ]\n}  \n\n",
       std::string("\"gr\xC3\xB6\xC3\x9F") + "e \xE6\xBC\xA2\xE5\xAD\x97 \xFF\xFE raw bytes\"",
       std::string("[1]\0", 4),
       std::string("[1]\0[2]", 7),
@@ -173,14 +174,14 @@ const std::vector<std::string>& texts() {
   return kTexts;
 }
 
-TEST(ParseFile, GivesTheReaderWhatItsOwnStreamGivesWhereverAPieceEnds) {
+TEST(ParseFile, AgreesWithRapidJsonAcrossTheEndOfTheBuffer) {
   for (const std::string& text : texts()) {
     compare(text);
-    compareAroundPieceEnds(text);
+    compareAroundBufferEnds(text);
   }
 }
 
-TEST(ParseFile, GivesTheReaderWhatItsOwnStreamGivesOfDamagedTexts) {
+TEST(ParseFile, AgreesWithRapidJsonOnDamagedTexts) {
   std::mt19937 random(1);
   const auto below = [&random](std::size_t limit) { return random() % limit; };
   for (int round = 0; round < 4000; ++round) {
@@ -196,7 +197,7 @@ TEST(ParseFile, GivesTheReaderWhatItsOwnStreamGivesOfDamagedTexts) {
       }
     }
     compare(text);
-    compare(std::string(kPiece - below(text.size() + 2), ' ') + text);
+    compare(std::string(kBuffer - below(text.size() + 2), ' ') + text);
   }
 }
 
@@ -214,8 +215,8 @@ TEST(ReaderStream, StaysAtTheEndOfTheFile) {
   std::fclose(file);
 }
 
-TEST(ParseFile, LosesNothingOfTextsThatFillSeveralPieces) {
-  for (std::size_t size = 2 * kPiece - 20; size < 2 * kPiece + 20; ++size) {
+TEST(ParseFile, AgreesWithRapidJsonOnTextsOfSeveralBuffers) {
+  for (std::size_t size = 2 * kBuffer - 20; size < 2 * kBuffer + 20; ++size) {
     std::string run;
     while (run.size() < size) {
       run += static_cast<char>('a' + run.size() % 23);

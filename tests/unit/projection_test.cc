@@ -1,4 +1,4 @@
-// What a load keeps of a document for the walks of reads.
+// The part of a document that a load keeps for reads.
 
 #include "json/load/projection.h"
 
@@ -18,7 +18,7 @@ namespace {
 
 class ProjectionTest : public testing::Test {
  protected:
-  /// What of a file with this content is kept, or "(refused)".
+  /// The text of the part of a file that is kept, or "(refused)".
   std::string kept(const std::string& content, const Projection& projection) {
     file_.write(content);
     Document document;
@@ -29,7 +29,7 @@ class ProjectionTest : public testing::Test {
     return loaded ? jsonOf(document) : "(refused)";
   }
 
-  /// What is kept for reads of these key paths.
+  /// The part that is kept for reads of these key paths.
   std::string kept(const std::string& content, const std::vector<std::string>& keyPaths) {
     Projection projection;
     for (const std::string& keyPath : keyPaths) {
@@ -38,7 +38,7 @@ class ProjectionTest : public testing::Test {
     return kept(content, projection);
   }
 
-  /// What is kept for a concatenation.
+  /// The part that is kept for a concatenation.
   std::string keptOfFields(const std::string& content, const std::string& keyPath,
                            const std::vector<std::string>& fields) {
     Projection projection;
@@ -50,7 +50,7 @@ class ProjectionTest : public testing::Test {
   MemoryFile file_;
 };
 
-TEST_F(ProjectionTest, KeepsTheNamedMembersOnTheWayAndAllAtTheEnd) {
+TEST_F(ProjectionTest, KeepsThePathAndItsWholeValue) {
   const std::string text = R"({"x":[1],"a":{"y":{},"b":{"c":[1,{"d":"e"}],"c":2.5},"z":null},"w":true})";
   EXPECT_EQ(kept(text, {"a.b"}), R"({"a":{"b":{"c":[1,{"d":"e"}],"c":2.5}}})");
   EXPECT_EQ(kept(text, {"a.b.c"}), R"({"a":{"b":{"c":[1,{"d":"e"}]}}})");
@@ -65,13 +65,14 @@ TEST_F(ProjectionTest, KeepsValuesOfEveryKind) {
   const std::string text = '{' + members + R"(,"j":[],"k":{}})";
   Document whole = parsed(text);
   EXPECT_EQ(kept(text, {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k"}), jsonOf(whole));
-  for (const char* scalar : {"null", "true", "-7", "7", "0.5", R"("long enough to stand outside of its value")"}) {
+  for (const char* scalar :
+       {"null", "true", "-7", "7", "0.5", R"("a text that is too long to be stored inside a value")"}) {
     EXPECT_EQ(kept(scalar, {""}), scalar);
     EXPECT_EQ(kept(scalar, {"a"}), "null");
   }
 }
 
-TEST_F(ProjectionTest, KeepsTheKindOfWhatCannotBeWalkedInto) {
+TEST_F(ProjectionTest, KeepsTheTypeOfContainersThatThePathCannotEnter) {
   EXPECT_EQ(kept(R"({"a":"text"})", {"a.b"}), R"({"a":null})");
   EXPECT_EQ(kept(R"({"a":[{"b":1}]})", {"a.b"}), R"({"a":[]})");
   EXPECT_EQ(kept(R"({"a":{"b":1}})", {"a.b=1"}), R"({"a":{}})");
@@ -84,13 +85,13 @@ TEST_F(ProjectionTest, KeepsTheFirstOfMembersWithTheSameName) {
   EXPECT_EQ(kept(R"({"a":{"b":1},"x":0,"a":{"b":2,"b":3}})", {"a.b"}), R"({"a":{"b":1}})");
   EXPECT_EQ(kept(R"({"a":5,"a":{"b":2}})", {"a.b"}), R"({"a":null})");
   EXPECT_EQ(kept(R"({"a":{},"a":{"b":2}})", {"a.b"}), R"({"a":{}})");
-  // Each of several objects has a first one.
+  // In each object of an array.
   EXPECT_EQ(kept(R"({"l":[{"i":1,"i":2},{"i":3,"i":4}]})", {"l.i=3"}), R"({"l":[{"i":1,"i":2},{"i":3,"i":4}]})");
   EXPECT_EQ(kept(R"({"l":[{"i":1,"i":2,"v":1,"v":2},{"i":3,"i":4}]})", {"l.i=3.v"}),
             R"({"l":[{"i":1,"v":1},{"i":3}]})");
 }
 
-TEST_F(ProjectionTest, KeepsOfEachElementWhatSelectsAndTheNextStep) {
+TEST_F(ProjectionTest, KeepsTheSelectingMemberAndTheNextStepOfEachElement) {
   const std::string text =
       R"({"l":[{"x":1,"i":7,"n":"a","m":[]},{"i":[1,"b",null,{"c":1},[2]],"n":{"o":1}},{"i":{"c":1}},3,[4],{}]})";
   EXPECT_EQ(kept(text, {"l.i=7.n"}),
@@ -112,7 +113,7 @@ TEST_F(ProjectionTest, KeepsTheFieldsOfEachElement) {
   EXPECT_EQ(keptOfFields(R"([[{"a":1,"b":2}],[]])", "", {"a=1.b"}), R"([[{"a":1,"b":2}],[]])");
 }
 
-TEST_F(ProjectionTest, KeepsWhatAnyOfSeveralReadsLooksAt) {
+TEST_F(ProjectionTest, KeepsThePartsOfSeveralReads) {
   const std::string text = R"({"a":{"b":{"c":1,"d":2},"e":3},"f":[{"g":1,"h":2}],"i":4})";
   EXPECT_EQ(kept(text, {"a.b.c", "a.e", "a.b.c"}), R"({"a":{"b":{"c":1},"e":3}})");
   EXPECT_EQ(kept(text, {"a.b.c", "a"}), R"({"a":{"b":{"c":1,"d":2},"e":3}})");
@@ -121,20 +122,20 @@ TEST_F(ProjectionTest, KeepsWhatAnyOfSeveralReadsLooksAt) {
   EXPECT_EQ(kept(text, {"f.g=1.h", "f.g.x"}), R"({"f":[{"g":1,"h":2}]})");
 }
 
-TEST_F(ProjectionTest, ChecksWhatItPassesOver) {
+TEST_F(ProjectionTest, RefusesErrorsInSkippedValues) {
   for (const char* bad : {"1e400", "[1e400]", "tru", "[1,]", "{1}", R"("\x")", R"("\ud800")", "\"\x01\"", "\"open",
                           R"({"b":[[{"c" 1}]]})", "01", "-", "[[1]"}) {
     EXPECT_EQ(kept(R"({"x":)" + std::string(bad) + R"(,"a":1})", {"a"}), "(refused)") << bad;
     EXPECT_EQ(kept(R"({"a":1,"x":)" + std::string(bad) + "}", {"a"}), "(refused)") << bad;
     EXPECT_EQ(kept(bad, {"a"}), "(refused)") << bad;
   }
-  // This one becomes infinite in the reader, which lets it pass.
+  // RapidJSON's reader accepts this number as infinity.
   EXPECT_EQ(kept(R"({"x":1.8e308,"a":1})", {"a"}), "(refused)");
   EXPECT_EQ(kept(R"({"a":1} 2)", {"a"}), "(refused)");
   EXPECT_EQ(kept(R"({"x":"a \u0041 \ud83d\ude00 \" \\ end","\u0061":1})", {"a"}), R"({"a":1})");
 }
 
-TEST_F(ProjectionTest, PassesOverJustWhatAWholeLoadTakesWhereverAPieceEnds) {
+TEST_F(ProjectionTest, SkipsWhatAWholeLoadAcceptsAcrossTheEndOfTheBuffer) {
   Projection whole;
   whole.addWhole(Projection::kRoot);
   const std::string digits(310, '9');
@@ -166,14 +167,14 @@ TEST_F(ProjectionTest, PassesOverJustWhatAWholeLoadTakesWhereverAPieceEnds) {
   }
 }
 
-TEST(Projection, KnowsAFileThatIsMissing) {
+TEST(Projection, FailsSilentlyForAMissingFile) {
   Document document;
   const Printed printed = capture([&] { EXPECT_FALSE(loadProjected("/none", {}, document, false)); });
   EXPECT_EQ(printed.errors, "");
   EXPECT_TRUE(document.IsNull());
 }
 
-TEST(Projection, TakesAPathOfVeryManySteps) {
+TEST(Projection, SupportsAPathOf200000Steps) {
   std::string keyPath = "a";
   for (int i = 0; i < 200'000; ++i) {
     keyPath += ".a";

@@ -1,4 +1,4 @@
-// Reads print the same whether the load kept only what they can look at or the whole file.
+// Reads print the same whether the load keeps the whole file or only the values that they can use.
 
 #include <gtest/gtest.h>
 
@@ -61,7 +61,7 @@ class SelectiveRead : public testing::Test {
     printReadResults(context.readActions, document);
   }
 
-  /// What the calls print on both streams.
+  /// The output of all calls, each after a line that shows the call.
   Printed performAll(const std::vector<Call>& calls, bool keepsAll) {
     return capture([&] {
       for (const Call& call : calls) {
@@ -80,7 +80,7 @@ class SelectiveRead : public testing::Test {
   MemoryFile file_;
 };
 
-/// The last few lines before the first difference.
+/// The text around the first difference; empty if there is none.
 std::string firstDifference(const std::string& left, const std::string& right) {
   std::size_t place = 0;
   while (place < left.size() && place < right.size() && left[place] == right[place]) {
@@ -90,7 +90,7 @@ std::string firstDifference(const std::string& left, const std::string& right) {
                                                        : left.substr(place - std::min<std::size_t>(place, 500), 600);
 }
 
-TEST_F(SelectiveRead, PrintsWhatAReadOfTheWholeFilePrints) {
+TEST_F(SelectiveRead, PrintsTheSameAsAReadOfTheWholeFile) {
   RandomJson random;
   std::vector<Call> calls(8000);
   for (Call& call : calls) {

@@ -7,13 +7,13 @@
 namespace kovalt::test {
 namespace {
 
-/// The low bits of a hash, which are all that 32-bit processors return.
+/// The low 32 bits of a hash: std::size_t has no more on a 32-bit processor.
 std::uint32_t hashOf(const std::string& text, std::uint64_t key0, std::uint64_t key1) {
   return static_cast<std::uint32_t>(TextHash(key0, key1)(text));
 }
 
 TEST(TextHash, IsSipHash) {
-  // Computed by another implementation of SipHash-1-3: Python's, and the published vector for the empty text.
+  // The published vector for the empty text; the others are from Python's SipHash-1-3.
   EXPECT_EQ(hashOf("", 0x0706050403020100, 0x0F0E0D0C0B0A0908), 0x050FC4DCU);
   EXPECT_EQ(hashOf("a", 0, 0), 0xB89B1813U);
   EXPECT_EQ(hashOf("1234567", 0, 0), 0x94FDAE81U);
@@ -27,7 +27,7 @@ TEST(TextHash, DependsOnItsKey) {
   EXPECT_NE(hashOf("a", 0, 0), hashOf("a", 0, 1));
 }
 
-TEST(TextHash, HasASecretKeyByDefault) {
+TEST(TextHash, HasARandomKeyByDefault) {
   const TextHash first;
   const TextHash second;
   EXPECT_NE(first("a"), second("a"));
