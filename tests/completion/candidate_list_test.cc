@@ -17,7 +17,7 @@ TEST(CandidateList, KeepsEachWordOnceInOrder) {
   EXPECT_FALSE(list.isCut());
 }
 
-TEST(CandidateList, IsNotCutUpToTheLongest) {
+TEST(CandidateList, HasAllWordsUpToTheLimit) {
   CandidateList list;
   for (std::size_t i = 0; i < CandidateList::kLongest; ++i) {
     list.add(std::to_string(i));
@@ -27,7 +27,7 @@ TEST(CandidateList, IsNotCutUpToTheLongest) {
   EXPECT_FALSE(list.isCut());
 }
 
-TEST(CandidateList, IsCutWithoutChangingTheCommonPrefix) {
+TEST(CandidateList, IsCutAfterTheLimitWithoutChangingTheCommonPrefix) {
   CandidateList list;
   for (std::size_t i = 0; i < CandidateList::kLongest; ++i) {
     list.add("same." + std::to_string(i));
@@ -42,7 +42,7 @@ TEST(CandidateList, IsCutWithoutChangingTheCommonPrefix) {
   EXPECT_EQ(std::count(words.begin(), words.end(), "samu"), 1);
 }
 
-TEST(CandidateList, KeepsTheOnlyDroppedWordOnce) {
+TEST(CandidateList, KeepsOneWordAfterTheLimit) {
   CandidateList list;
   for (std::size_t i = 0; i <= CandidateList::kLongest; ++i) {
     list.add(std::to_string(i));
