@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 constexpr unsigned kUnprivilegedUser = 65534;
 
-/// A fresh directory, which is removed with its content.
+/// A fresh directory, which the destructor removes with its content.
 class WorkingDirectory {
  public:
   WorkingDirectory() {
@@ -94,7 +94,7 @@ void writeEntry(const fs::path& directory, const Entry& entry) {
   fs::permissions(path, static_cast<fs::perms>(entry.mode));
 }
 
-/// The bytes of a file, even if its mode does not let an ordinary user read it.
+/// The bytes of a file, even if its mode forbids its owner to read it.
 std::string readFile(const fs::path& path) {
   const fs::perms mode = fs::status(path).permissions();
   fs::permissions(path, mode | fs::perms::owner_read);
@@ -149,7 +149,7 @@ void giveTo(unsigned user, const fs::path& directory) {
 }
 
 /// The program under test: the one that was built, or the one that KOVALT_TEST_PROGRAM names, such as another build or
-/// a script that runs the program under a checking tool.
+/// a script that runs the program under a checker such as Valgrind.
 const char* programPath() {
   const char* replacement = std::getenv("KOVALT_TEST_PROGRAM");
   return replacement == nullptr ? KOVALT_PROGRAM : replacement;
@@ -229,7 +229,7 @@ void ToolCall::check() const {
         << "standard error lacks " << abortFragment_ << ":\n"
         << errors.content();
   } else {
-    EXPECT_TRUE(WIFEXITED(status)) << "ended by signal " << WTERMSIG(status);
+    EXPECT_TRUE(WIFEXITED(status)) << "killed by signal " << WTERMSIG(status);
     EXPECT_EQ(WEXITSTATUS(status), status_) << "exit status";
     EXPECT_EQ(errors.content(), errors_) << "standard error";
   }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr auto kLetters = R"({"l":[{"a":"A","b":"B","c":"C","d":"D"}]})";
 
-/// A concatenation of the array l, whose fields and separators are `list`, in a file that holds `content`.
+/// A concatenation of the array l, whose fields and separators are `list`, in a file that contains `content`.
 ToolCall concatenation(const std::string& name, const std::string& content, const std::string& option,
                        const std::string& list) {
   return ToolCall(name).given("f.json", content).call("-f f.json " + option + " l " + list);
@@ -142,13 +142,15 @@ std::vector<ToolCall> separators() {
 /// Fields and separators are a list of values, which ValueLists describes.
 std::vector<ToolCall> lists() {
   return {
-      concatenation("one_value_is_cut_into_fields", kLetters, "--readObjectArrayConcat", "a,b,c,").printsLine("A B C"),
-      concatenation("one_value_is_cut_into_fields_and_separators", kLetters, "-roacs", "a,b,c,-+").printsLine("A-B+C"),
+      concatenation("one_value_is_split_into_fields", kLetters, "--readObjectArrayConcat", "a,b,c,")
+          .printsLine("A B C"),
+      concatenation("one_value_is_split_into_fields_and_separators", kLetters, "-roacs", "a,b,c,-+")
+          .printsLine("A-B+C"),
       concatenation("comma_after_the_separators", kLetters, "-roacs", "a,b,/,").printsLine("A/B"),
       concatenation("comma_as_separator", kLetters, "-roacs", "a b c ,/").printsLine("A,B/C"),
-      concatenation("two_values_are_not_cut", R"({"l":[{"a,b":"x","a":"A","c":"C"}]})", "-roac", "a,b c")
+      concatenation("two_values_are_not_split", R"({"l":[{"a,b":"x","a":"A","c":"C"}]})", "-roac", "a,b c")
           .printsLine("x C"),
-      concatenation("field_before_its_separators_is_not_cut", R"({"l":[{"a,b":"x","a":"A"}]})", "-roacs", "a,b /")
+      concatenation("field_before_its_separators_is_not_split", R"({"l":[{"a,b":"x","a":"A"}]})", "-roacs", "a,b /")
           .printsLine("x"),
       concatenation("empty_piece_is_the_whole_element", R"({"l":[{"a":1},{"a":0}]})", "-roac", ",a")
           .printsLine(R"({"a":0} 0 {"a":1} 1)"),

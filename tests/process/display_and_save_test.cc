@@ -6,7 +6,7 @@
 namespace kovalt::test {
 namespace {
 
-/// A call on a file that is not saved: it keeps the space after its value.
+/// A call on a file that is not saved, so that the space after its value stays.
 ToolCall kept(const std::string& name, const std::string& options, const std::string& output) {
   return ToolCall(name).given("f.json", "7 ").call(options).prints(output);
 }
@@ -71,7 +71,7 @@ std::vector<ToolCall> decisions() {
   };
 }
 
-/// Calls whose output is lost, which changes nothing else.
+/// Calls whose output is lost. Everything else must be as usual.
 std::vector<ToolCall> lostOutput() {
   const std::string text(100000, 'x');
   return {

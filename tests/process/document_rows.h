@@ -15,12 +15,12 @@ ToolCall added(const std::string& name, const std::string& options, const std::s
 ToolCall changed(const std::string& name, const std::string& before, const std::string& options,
                  const std::string& after);
 
-/// In `options` two types meet under the name `key`. f.json, which holds `before`, is neither displayed nor saved, and
+/// `options` merge two types under the name `key`. f.json, which contains `before`, is neither displayed nor saved, and
 /// nothing is read.
 ToolCall clashing(const std::string& name, const std::string& before, const std::string& options,
                   const std::string& key);
 
-/// A read of `path` in a file that holds `content`.
+/// A read of `path` in a file that contains `content`.
 ToolCall reading(const std::string& name, const std::string& content, const std::string& path);
 
 }  // namespace kovalt::test

@@ -1,5 +1,5 @@
-// Files that cannot be loaded, merged or saved. A failed load is an empty object, and only a failed save changes the
-// exit status.
+// Files that cannot be loaded, merged or saved. A file that cannot be loaded is treated as an empty object; only a
+// failed save changes the exit status.
 
 #include "document_rows.h"
 #include "messages.h"
@@ -19,7 +19,7 @@ ToolCall notSaved(const std::string& name, const std::string& path) {
 
 std::vector<ToolCall> loads() {
   return {
-      // A file that cannot be opened is not reported.
+      // A work file that cannot be opened is not reported.
       loading("file_below_a_file", "-f plain/f.json", "").given("plain", "{}"),
       loading("link_without_its_target", "-f link.json", "").givenSymbolicLink("link.json", "none.json"),
       loading("unreadable_file", "-f f.json", "").given("f.json", "7", 0000).withoutPrivileges(),
@@ -87,7 +87,7 @@ std::vector<ToolCall> merges() {
       loading("byte_order_mark", "-af s.json", cannotParse("s.json")).given("s.json", "\xef\xbb\xbf{\"a\":1}"),
       loading("nul_after_the_value", "-af s.json", cannotParse("s.json")).given("s.json", std::string("{}\0", 3)),
 
-      // The document stays, and what is not an object becomes one.
+      // The document is unchanged, except that a value that is not an object becomes an empty one.
       changed("missing_file_at_each_type", R"({"a":"s","b":[1],"c":{"d":1}})",
               "-af s.json -afat a s.json -afat b s.json -afat c s.json -afat new.key s.json",
               R"({"a":{},"b":{},"c":{"d":1},"new":{"key":{}}})")

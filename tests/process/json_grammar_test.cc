@@ -131,7 +131,7 @@ TEST(JsonGrammarLoops, RefusesControlCharactersInLongStringsAndWritesTheirEscape
 }
 
 TEST(JsonGrammarLoops, DecidesTheSameWhereverTheInputBufferEnds) {
-  // Each byte of a document once follows the end of the buffer.
+  // The buffer ends before each byte of a document in turn.
   for (const std::size_t spaces : {4088U, 8188U}) {
     for (std::size_t more = 0; more < 12; ++more) {
       const std::string white(spaces + more, ' ');

@@ -1,4 +1,4 @@
-// How the text of a key path is cut into steps, and how it appears in messages and results.
+// How the text of a key path is split into steps, and how it appears in messages and results.
 
 #include "document_rows.h"
 #include "messages.h"

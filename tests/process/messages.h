@@ -23,12 +23,12 @@ inline std::string notComparable(const std::string& step) {
          "refKey must be a bool/number/string/array of numbers/strings.\n";
 }
 
-/// A boolean, or an array with one, is rejected; `values` is its text in small letters.
+/// A boolean, or an array with one, is rejected; `values` is its text in lower case.
 inline std::string rejected(const std::string& values) {
   return "Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, " + values + " rejected.\n";
 }
 
-/// A merge meets two types under the name `key`. The program then exits with status 1.
+/// A merge finds two types under the name `key`. The program then exits with status 1.
 inline std::string clash(const std::string& key) { return "Incompatible types for key " + key + "\n"; }
 
 inline std::string cannotOpen(const std::string& path) { return "Could not open document: " + path + "\n"; }

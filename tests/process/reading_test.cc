@@ -1,4 +1,4 @@
-// What --read prints: the bare text of a single read, or one object with the texts of several.
+// The output of --read: the text of a single read, or one object with the texts of several.
 
 #include "document_rows.h"
 #include "messages.h"
@@ -26,7 +26,7 @@ std::vector<ToolCall> singleReads() {
       ToolCall("root_without_a_file").call("--read ''").printsLine("{}"),
       reading("missing_path", R"({"a":1})", "b").reports(readError("b")),
 
-      // Reads see the document as the edits left it.
+      // Reads run after the edits.
       ToolCall("added_string_is_escaped").call("-as key a\"b\\c\nd -r key").printsLine(R"(a\"b\\c\nd)"),
       ToolCall("added_number").call("-an key ' +0042x' -r key").printsLine("42"),
       ToolCall("rejected_boolean").call("-ab k Hello -r k").printsLine("null").reports(rejected("hello")),

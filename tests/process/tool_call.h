@@ -1,6 +1,6 @@
 #pragma once
 
-// One call of the built program as a row: its files and arguments, and every byte that it must print and leave. Does
+// One call of the built program as a row: its files and arguments, and every byte that it must print and write. Does
 // not include GoogleTest, so that long tables compile fast.
 
 #include <initializer_list>
@@ -27,7 +27,7 @@ struct Entry {
 /// right after `R"(`: a display ends with an end of line before `)"`, a saved file with its last brace or bracket.
 class ToolCall {
  public:
-  /// `name` states the idea of the row in letters, digits and underscores.
+  /// `name` says what the row checks, in letters, digits and underscores.
   explicit ToolCall(std::string_view name) : name_(name) {}
 
   /// Creates a file in the fresh working directory of the call, and the directories on its path.
@@ -35,10 +35,10 @@ class ToolCall {
   ToolCall& givenDirectory(std::string_view path, unsigned mode = 0755);
   ToolCall& givenSymbolicLink(std::string_view path, std::string_view target);
 
-  /// The arguments, without the program's name, as one text that is cut at spaces. An argument in single quotes may
-  /// hold spaces or be empty: `-as k ''`.
+  /// The arguments, without the program's name, as one text that is split at spaces. An argument in single quotes may
+  /// contain spaces or be empty: `-as k ''`.
   ToolCall& call(std::string_view arguments);
-  /// The same as a list, for arguments that hold single quotes or are computed.
+  /// The same as a list, for arguments that contain single quotes or are computed.
   ToolCall& call(std::initializer_list<std::string_view> arguments);
 
   /// Runs the program as an unprivileged user, so that file modes count even if the tests run as root.
@@ -54,18 +54,19 @@ class ToolCall {
   ToolCall& prints(std::string_view bytes);
   /// Standard output consists of this line and its end of line.
   ToolCall& printsLine(std::string_view line);
-  /// The bytes of standard error; if the call aborts, the bytes that it begins with. messages.h has the messages.
+  /// The bytes of standard error; if the call aborts, the bytes at its start. messages.h has the messages.
   ToolCall& reports(std::string_view bytes);
   /// The exit status.
   ToolCall& exits(int status);
-  /// The call ends with SIGABRT, and standard error holds `fragment` after the bytes of `reports`.
+  /// The call aborts with SIGABRT, and standard error contains `fragment` after the bytes of `reports`.
   ToolCall& aborts(std::string_view fragment = "");
   /// The bytes of a file that the call creates or changes.
   ToolCall& leaves(std::string_view path, std::string_view content);
 
   [[nodiscard]] const std::string& name() const { return name_; }
 
-  /// Runs the call in a fresh directory and compares everything that it printed and left, as a GoogleTest test does.
+  /// Runs the call in a fresh directory and compares everything that it printed and wrote. Failures are reported to
+  /// GoogleTest.
   void check() const;
 
  private:

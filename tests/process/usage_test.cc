@@ -79,8 +79,8 @@ std::vector<ToolCall> usage() {
       ToolCall("usage_on_a_full_output_is_a_success").withFullOutput().call({}),
       ToolCall("empty_argument_is_invalid").call("''").prints(invalidArgument("")).exits(1),
       ToolCall("space_is_invalid").call("' '").prints(invalidArgument(" ")).exits(1),
-      ToolCall("no_option_asks_for_help").call("--help").prints(invalidArgument("--help")).exits(1),
-      ToolCall("no_option_asks_for_the_version").call("--version").prints(invalidArgument("--version")).exits(1),
+      ToolCall("help_is_not_an_option").call("--help").prints(invalidArgument("--help")).exits(1),
+      ToolCall("version_is_not_an_option").call("--version").prints(invalidArgument("--version")).exits(1),
   };
 }
 
@@ -117,7 +117,7 @@ std::vector<ToolCall> examples() {
     ]
 }
 )"),
-      // The usage shows another key.
+      // The usage text shows another key.
       ToolCall("add_array_boolean")
           .call("--addArrayBoolean key TRUE 1 FalSe 0 hello")
           .prints(R"({
@@ -131,7 +131,7 @@ std::vector<ToolCall> examples() {
 }
 )")
           .reports(rejected("[ true 1 false 0 hello ]")),
-      // The usage shows three numbers.
+      // The usage text shows three numbers.
       ToolCall("add_array_number").call("--addArrayNumber key 0 1 2 3").prints(R"({
     "key": [
         0,
@@ -182,7 +182,7 @@ std::vector<ToolCall> examples() {
       ToolCall("read").call("--read key --addString key value").printsLine("value"),
       ToolCall("read_array").call("--readArray key --addArray key val1 val2").printsLine("val1 val2"),
       ToolCall("read_array_space").call("--readArraySpace key --addArray key val1 val2").printsLine(R"("val1" "val2")"),
-      // The usage leaves out the key path.
+      // The usage text omits the key path.
       ToolCall("read_array_space_no_quote_is_refused")
           .call("--readArraySpaceNoQuote --addArray key val1 val2")
           .prints(invalidArgument("key"))
@@ -202,7 +202,7 @@ std::vector<ToolCall> examples() {
               {"names": ["Third", "Dastrel"], "maxNumberOfNodesForThisHypervisor": 8}]}})")
           .call("--file conf.json --read processProvisioning.pools.names=Dastrel.maxNumberOfNodesForThisHypervisor")
           .printsLine("8"),
-      // The usage puts -f where the key path belongs, and the words after it are fields.
+      // The usage text puts -f in place of the key path; the words after it are fields.
       ToolCall("concatenation_reads_the_key_path_f")
           .given("hyperGraph.json", kGraph)
           .call("--readObjectArrayConcat -f hyperGraph.json links id hostname port")

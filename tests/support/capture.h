@@ -1,6 +1,6 @@
 #pragma once
 
-// What code in the process of a test prints.
+// Captures what a test prints.
 
 #include <unistd.h>
 
@@ -11,7 +11,7 @@
 
 namespace kovalt::test {
 
-/// Sends what is written to a standard stream to a file in memory, as long as it exists.
+/// Redirects a standard stream to a file in memory while the object exists.
 class StreamCapture {
  public:
   StreamCapture(std::FILE* stream, int descriptor)
@@ -38,7 +38,7 @@ class StreamCapture {
   MemoryFile file_;
 };
 
-/// The bytes of both standard streams.
+/// The bytes that were written to both standard streams.
 struct Printed {
   std::string output;
   std::string errors;

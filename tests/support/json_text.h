@@ -1,6 +1,6 @@
 #pragma once
 
-// JSON values from and to their texts, by RapidJSON alone.
+// Converts JSON values from and to text with RapidJSON's own reader and writer, not with the code under test.
 
 #include <string>
 #include <string_view>
@@ -9,13 +9,13 @@
 
 namespace kovalt::test {
 
-/// The document of a text that a test wrote itself; one that does not parse fails the test.
+/// Parses `text`. A parse error fails the test.
 Document parsed(std::string_view text);
 
-/// A value made from such a text, in the pool of another document.
+/// As `parsed`, with a value in the pool of another document.
 Value parsedInto(std::string_view text, Allocator& allocator);
 
-/// The text of `value` without any white space.
+/// The text of `value` without whitespace.
 std::string jsonOf(const Value& value);
 
 }  // namespace kovalt::test

@@ -1,6 +1,6 @@
 #pragma once
 
-// A file that is not on any disk.
+// Files in memory.
 
 #include <sys/mman.h>
 #include <sys/types.h>
@@ -11,7 +11,7 @@
 
 namespace kovalt::test {
 
-/// A file in memory, which has a path in this process. Aborts where the system fails.
+/// A file in memory with a path in this process. Aborts if a system call fails.
 class MemoryFile {
  public:
   MemoryFile() : descriptor_(memfd_create("kovalt", 0)) { require(descriptor_ >= 0); }

@@ -1,6 +1,6 @@
 #pragma once
 
-// Random documents, full of duplicate names and values of unexpected kinds, and steps of key paths that meet them.
+// Random documents with duplicate names and values of unexpected types, and key paths that lead into them.
 
 #include <cstddef>
 #include <random>
@@ -32,7 +32,7 @@ class RandomJson {
     return text + (isArray ? ']' : '}');
   }
 
-  /// A document that key paths get far into: most of the time it has an array of objects at "a", or is one.
+  /// A document into which key paths lead deep: it usually has an array of objects at "a", or is one.
   std::string document() {
     const std::string array = '[' + element(4) + ',' + element(4) + ',' + element(3) + ']';
     switch (below(6)) {
@@ -61,7 +61,7 @@ class RandomJson {
  private:
   std::string name() { return pick({"a", "a", "ab", "b", "b", "c", "", "a.b", "a=7", "\\n"}); }
 
-  /// Most of the time an object.
+  /// Usually an object.
   std::string element(int depth) {
     if (below(5) == 0) {
       return value(depth);

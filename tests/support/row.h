@@ -1,6 +1,6 @@
 #pragma once
 
-// What the rows of all tables share.
+// The names of rows in tables of tests.
 
 #include <gtest/gtest.h>
 
@@ -9,12 +9,12 @@
 
 namespace kovalt::test {
 
-/// The start of every row: its idea, in letters, digits and underscores.
+/// The base of every row: its name says what it checks, in letters, digits and underscores.
 struct Row {
   std::string name;
 };
 
-/// Shows the row's name where GoogleTest would print its bytes.
+/// Prints the name of a row; GoogleTest itself would print the bytes of the object.
 inline std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.name; }
 
 /// The name under which GoogleTest lists a row.

@@ -9,7 +9,7 @@ namespace kovalt::test {
 
 using Texts = std::vector<std::string>;
 
-/// The texts as the program gets its arguments. The pointers look into `texts`.
+/// The texts as an argument vector. The pointers are valid as long as `texts`.
 inline std::vector<const char*> pointersTo(const Texts& texts) {
   std::vector<const char*> pointers;
   pointers.reserve(texts.size());
