@@ -12,7 +12,7 @@ ToolCall example(const std::string& row, const std::string& name, const std::str
   return ToolCall(row).given(name, exampleFile(name)).call("-f " + name + " " + options);
 }
 
-/// The example file `name` as the program saves it, which is without its last end of line.
+/// The example file `name` as the program saves it: without its final end of line.
 std::string saved(const std::string& name) {
   std::string content = exampleFile(name);
   content.pop_back();

@@ -50,7 +50,7 @@ std::vector<ToolCall> atTheRoot() {
   "a": 1
 })"),
 
-      // A merged file must hold an object.
+      // The root of a merged file must be an object.
       ToolCall("root_array_of_a_merged_file_aborts")
           .given("f.json", R"({"a":1})")
           .given("s.json", R"([{"b":2}])")

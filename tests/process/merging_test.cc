@@ -49,12 +49,12 @@ std::vector<ToolCall> merged() {
               R"({"a":1,"bc":2,"A":"case","b":"length","a\u0000b":"NUL"})"),
       merging("names_that_are_equal", R"({"\u0041\/":1,"":2})", R"({"A/":3,"":4})", R"({"A/":3,"":4})"),
       merging("dot_in_a_name", R"({"a":{"b":1}})", R"({"a.b":2})", R"({"a":{"b":1},"a.b":2})"),
-      merging("equal_names_of_the_file_meet_each_other", R"({})", R"({"a":1,"l":[1],"b":2,"a":3,"l":[2]})",
+      merging("equal_names_of_the_file_are_merged", R"({})", R"({"a":1,"l":[1],"b":2,"a":3,"l":[2]})",
               R"({"a":3,"l":[1,2],"b":2})"),
-      merging("equal_names_of_an_object_of_the_file_meet_each_other", R"({"o":{}})", R"({"o":{"a":1,"a":2}})",
+      merging("equal_names_of_an_object_of_the_file_are_merged", R"({"o":{}})", R"({"o":{"a":1,"a":2}})",
               R"({"o":{"a":2}})"),
-      merging("equal_names_of_a_new_object_receive_a_later_one", R"({})", R"({"o":{"a":1,"a":2},"o":{"a":3,"b":4}})",
-              R"({"o":{"a":3,"a":2,"b":4}})"),
+      merging("object_is_merged_into_the_first_of_equal_names_of_a_new_one", R"({})",
+              R"({"o":{"a":1,"a":2},"o":{"a":3,"b":4}})", R"({"o":{"a":3,"a":2,"b":4}})"),
       merging("equal_names_of_a_new_object_are_kept", R"({})", R"({"o":{"a":1,"a":2}})", R"({"o":{"a":1,"a":2}})"),
       ToolCall("first_of_equal_names_is_merged_into")
           .given("f.json", R"({"a":1,"a":"x","l":[0],"l":[9]})")

@@ -16,7 +16,7 @@ inline std::string notFound(const std::string& step) {
   return "Kovalt path not found with refKey=refValue \"" + step + "\"\n";
 }
 
-/// The selection step `step` selects nothing and meets a value that cannot be compared.
+/// The selection step `step` selects nothing, and the search found a value that cannot be compared.
 inline std::string notComparable(const std::string& step) {
   return notFound(step) +
          "Error in path argument, when you use prop1.refKey=refValue.prop2, prop1 must be an array of objects, and "

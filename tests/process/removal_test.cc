@@ -1,4 +1,4 @@
-// Removals, with and without the clearing of objects left empty, and when they count as a change.
+// Removals, the removal of objects that are then empty, and which removals count as a change.
 
 #include "document_rows.h"
 

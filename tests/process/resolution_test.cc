@@ -1,4 +1,4 @@
-// What a key path designates for a read and for an addition, and what an addition creates where nothing exists.
+// The value that a key path names for a read and for an addition, and the members that an addition creates.
 
 #include "document_rows.h"
 #include "messages.h"

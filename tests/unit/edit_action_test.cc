@@ -1,4 +1,4 @@
-// What calls of the program do not reach in additions: a null target, and the base class.
+// Parts of additions that calls of the program do not reach: a null target, and the base class.
 
 #include "actions/edit/edit_action.h"
 

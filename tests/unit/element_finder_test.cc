@@ -1,4 +1,4 @@
-// Selections that use an index find what they find without one.
+// Selections have the same result with and without an index.
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,4 @@
-// What merges do with the memory of the source, and merges of many members. Merging and MergingClashes show the results
-// of small ones.
+// The memory of the source of a merge, and merges of many members. Merging and MergingClashes have small merges.
 
 #include "actions/edit/merge_value.h"
 
@@ -56,7 +55,7 @@ TEST(MergeValue, MovesValuesAndLeavesEmptiedMembers) {
   EXPECT_TRUE(isEmptied(merge.source()));
 }
 
-// Merges of many members, which use an index, must give what a merge of one member at a time gives.
+// Merges of many members use an index. Their result must be that of a merge without one.
 
 /// Names and numbers in order. Names may repeat.
 using Members = std::vector<std::pair<std::string, std::uint32_t>>;
@@ -80,7 +79,7 @@ Members makeMembers(std::size_t count, std::uint32_t nameCount, std::uint32_t se
   return members;
 }
 
-Members mergedOneByOne(Members target, const Members& source) {
+Members mergedWithoutIndex(Members target, const Members& source) {
   for (const auto& member : source) {
     const auto existing =
         std::find_if(target.begin(), target.end(), [&](const auto& other) { return other.first == member.first; });
@@ -95,23 +94,23 @@ Members mergedOneByOne(Members target, const Members& source) {
 
 class ManyMembers : public testing::TestWithParam<std::tuple<std::size_t, std::size_t>> {};
 
-TEST_P(ManyMembers, AreMergedAsOneByOne) {
+TEST_P(ManyMembers, AreMergedAsWithoutAnIndex) {
   const auto [targetCount, sourceCount] = GetParam();
   const auto nameCount = static_cast<std::uint32_t>(targetCount + sourceCount + 1);
   const Members target = makeMembers(targetCount, nameCount, 1);
   const Members source = makeMembers(sourceCount, nameCount, 2);
   Merge merge(membersText(target), membersText(source));
   merge.run();
-  EXPECT_TRUE(jsonOf(merge.target()) == membersText(mergedOneByOne(target, source)));
+  EXPECT_TRUE(jsonOf(merge.target()) == membersText(mergedWithoutIndex(target, source)));
 }
 
-TEST_P(ManyMembers, WithOneNameAreMergedAsOneByOne) {
+TEST_P(ManyMembers, WithOneNameAreMergedAsWithoutAnIndex) {
   const auto [targetCount, sourceCount] = GetParam();
   const Members target = makeMembers(targetCount, 1, 1);
   const Members source = makeMembers(sourceCount, 1, 2);
   Merge merge(membersText(target), membersText(source));
   merge.run();
-  EXPECT_TRUE(jsonOf(merge.target()) == membersText(mergedOneByOne(target, source)));
+  EXPECT_TRUE(jsonOf(merge.target()) == membersText(mergedWithoutIndex(target, source)));
 }
 
 INSTANTIATE_TEST_SUITE_P(MergeValue, ManyMembers,

@@ -1,4 +1,5 @@
-// What a shell cannot pass: calls without a name of the program, with any name, and arguments after the count.
+// Calls that no shell makes: without any argument, with another name of the program, and with arguments after the
+// count.
 
 #include "app/parse_arguments.h"
 

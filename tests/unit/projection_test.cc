@@ -59,7 +59,7 @@ TEST_F(ProjectionTest, KeepsThePathAndItsWholeValue) {
   EXPECT_EQ(kept(text, {""}), text);
 }
 
-TEST_F(ProjectionTest, KeepsValuesOfEveryKind) {
+TEST_F(ProjectionTest, KeepsValuesOfEachType) {
   const std::string members =
       R"("a":null,"b":true,"c":false,"d":-1,"e":1,"f":-4294967296,"g":18446744073709551615,"h":-0.5,"i":"\u00e9\n")";
   const std::string text = '{' + members + R"(,"j":[],"k":{}})";
