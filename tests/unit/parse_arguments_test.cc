@@ -28,6 +28,12 @@ TEST(ParseArguments, SucceedsWithoutAnyArgument) {
   }
 }
 
+TEST(ParseArguments, FailsSilentlyWithTheNameOfTheProgramAlone) {
+  const char* const name = "Kovalt";
+  ToolContext context;
+  EXPECT_FALSE(parse(context, 1, &name));
+}
+
 TEST(ParseArguments, IgnoresTheNameOfTheProgram) {
   for (const char* name : {"", "--addString", "-f", "not an option"}) {
     const std::vector<const char*> arguments = {name, "-f", "f.json"};

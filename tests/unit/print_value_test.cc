@@ -77,6 +77,18 @@ TEST(PrintValue, PrintsStringsAcrossTheEndOfTheBuffer) {
   }
 }
 
+TEST(ValueToText, IndentsByFourSpacesIfPretty) {
+  Document document;
+  document.Parse(R"({"a":[1,{}]})");
+  EXPECT_EQ(valueToText(document, true), R"({
+    "a": [
+        1,
+        {}
+    ]
+})");
+  EXPECT_EQ(valueToText(document, false), R"({"a":[1,{}]})");
+}
+
 TEST(PrintValue, IndentsDeeplyNestedArrays) {
   constexpr std::size_t kDepth = 300;
   Document document;
