@@ -2,6 +2,7 @@
 times."""
 
 import json
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -136,10 +137,11 @@ class Colours(unittest.TestCase):
 
 class QuickRun(unittest.TestCase):
     def test_all_parts_leave_results_a_page_and_charts(self):
+        results = BUILD / "results"
+        shutil.rmtree(results, ignore_errors=True)
         run = subprocess.run([sys.executable, SCRIPTS / "run.py", BUILD, BUILD / "unused", "--quick"],
                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
         self.assertEqual(0, run.returncode, run.stdout.decode())
-        results = BUILD / "results"
         page, = results.glob("*.md")
         data = json.loads(page.with_suffix(".json").read_text(encoding="utf-8"))
         self.assertTrue(data["quick"])

@@ -17,7 +17,7 @@ TEST(CandidateList, KeepsEachWordOnceInOrder) {
   EXPECT_FALSE(list.isCut());
 }
 
-TEST(CandidateList, HasAllWordsUpToTheLimit) {
+TEST(CandidateList, IsNotCutUpToTheLongest) {
   CandidateList list;
   for (std::size_t i = 0; i < CandidateList::kLongest; ++i) {
     list.add(std::to_string(i));
@@ -27,7 +27,7 @@ TEST(CandidateList, HasAllWordsUpToTheLimit) {
   EXPECT_FALSE(list.isCut());
 }
 
-TEST(CandidateList, IsCutAfterTheLimitWithoutChangingTheCommonPrefix) {
+TEST(CandidateList, IsCutWithoutChangingTheCommonPrefix) {
   CandidateList list;
   for (std::size_t i = 0; i < CandidateList::kLongest; ++i) {
     list.add("same." + std::to_string(i));
@@ -42,7 +42,7 @@ TEST(CandidateList, IsCutAfterTheLimitWithoutChangingTheCommonPrefix) {
   EXPECT_EQ(std::count(words.begin(), words.end(), "samu"), 1);
 }
 
-TEST(CandidateList, KeepsOneWordAfterTheLimit) {
+TEST(CandidateList, KeepsTheOnlyDroppedWordOnce) {
   CandidateList list;
   for (std::size_t i = 0; i <= CandidateList::kLongest; ++i) {
     list.add(std::to_string(i));

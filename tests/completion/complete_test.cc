@@ -21,18 +21,18 @@ constexpr const char* kCursor = "|";
 
 struct LineRow {
   std::string name;
-  Words line;  ///< Without the program's name; the word at the cursor ends in "|".
+  Words line;  ///< Without the name of the program. The word at the cursor ends in "|".
   Words expected;
 };
 
 std::ostream& operator<<(std::ostream& out, const LineRow& row) { return out << row.name; }
 
-/// In the rows, these represent file names and lists of all options.
+/// Placeholders in the rows for file names and for all options.
 constexpr const char* kFiles = "files";
 constexpr const char* kOptions = "options";
 constexpr const char* kOptionsWithoutFile = "options without --file";
 
-/// The candidates without the descriptions of the options.
+/// Returns the candidates without the descriptions of options.
 Words wordsOf(const Completion& completion) {
   Words words;
   for (const std::string& line : completion.lines) {
@@ -84,7 +84,7 @@ class CompleteLine : public testing::TestWithParam<LineRow> {
   std::filesystem::path back_;
 };
 
-TEST_P(CompleteLine, OffersTheCandidates) {
+TEST_P(CompleteLine, OffersTheCandidatesAtTheCursor) {
   const Completion completion = completeLine(GetParam().line);
   const Words& expected = GetParam().expected;
   if (expected == Words{kFiles}) {
@@ -103,7 +103,7 @@ TEST_P(CompleteLine, OffersTheCandidates) {
 std::vector<LineRow> optionRows() {
   return {
       {"all_options", {"|"}, {kOptions}},
-      {"options_behind_an_option", {"--read", "k", "|"}, {kOptions}},
+      {"options_after_an_option", {"--read", "k", "|"}, {kOptions}},
       {"long_forms", {"--readArrayC|"}, {"--readArrayComma", "--readArrayCommaNoQuote"}},
       {"short_forms", {"-rm|"}, {"-rm", "-rmc"}},
       {"no_such_option", {"--write|"}, {}},
@@ -112,11 +112,11 @@ std::vector<LineRow> optionRows() {
       {"no_second_file_by_its_form", {"-fd", "c.json", "--file|"}, {}},
       {"no_file_before_the_file", {"--fi|", "-f", "c.json"}, {}},
       {"file_that_is_a_key_path", {"--read", "--file", "--fi|"}, {"--file", "--fileDisplay"}},
-      {"behind_an_unknown_word", {"what", "--fileD|"}, {"--fileDisplay"}},
-      {"behind_a_list", {"--addArray", "k", "a", "b", "|"}, {kOptions}},
+      {"after_an_unknown_word", {"what", "--fileD|"}, {"--fileDisplay"}},
+      {"after_a_list", {"--addArray", "k", "a", "b", "|"}, {kOptions}},
       {"option_ends_a_list", {"--addArray", "k", "a", "--readArrayCommaN|"}, {"--readArrayCommaNoQuote"}},
       {"option_in_place_of_a_list", {"--addArray", "k", "|"}, {kOptions}},
-      {"option_behind_fields", {"-roac", "list", "id", "-rmc|"}, {"-rmc"}},
+      {"option_after_fields", {"-roac", "list", "id", "-rmc|"}, {"-rmc"}},
   };
 }
 
@@ -156,7 +156,7 @@ std::vector<LineRow> keyPathRows() {
       {"first_file_counts", {"-f", "c.json", "-f", "broken.json", "--read", "netw|"}, {"network."}},
       {"empty_file_name_is_none", {"-f", "", "-f", "c.json", "--read", "netw|"}, {"network."}},
       {"file_that_is_a_value", {"--addString", "--file", "c.json", "--read", "netw|"}, {}},
-      {"file_to_merge_is_not_asked", {"--addFile", "c.json", "--read", "netw|"}, {}},
+      {"file_to_merge_is_not_read", {"--addFile", "c.json", "--read", "netw|"}, {}},
       {"no_file", {"--read", "netw|"}, {}},
       {"no_file_and_no_letter", {"--read", "|"}, {}},
       {"missing_file", {"-f", "none.json", "--read", "|"}, {}},
