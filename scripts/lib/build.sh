@@ -58,7 +58,7 @@ build_preset() {
 
 # Runs the tests of build/FOLDER: FOLDER [CTEST_ARGUMENT]...
 run_tests() {
-  ctest --test-dir "build/$1" --output-on-failure --parallel 2 "${@:2}"
+  ctest --test-dir "build/$1" --output-on-failure --parallel 4 "${@:2}"
 }
 
 # Sets `toolchain` to the CMake arguments for an architecture, which are none for this machine's own, and installs its

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/option_table.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {
@@ -167,11 +168,9 @@ std::vector<LineRow> keyPathRows() {
   return rows;
 }
 
-std::string rowName(const testing::TestParamInfo<LineRow>& info) { return info.param.name; }
-
-INSTANTIATE_TEST_SUITE_P(Options, CompleteLine, testing::ValuesIn(optionRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(Arguments, CompleteLine, testing::ValuesIn(argumentRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(KeyPaths, CompleteLine, testing::ValuesIn(keyPathRows()), rowName);
+INSTANTIATE_TEST_SUITE_P(Options, CompleteLine, testing::ValuesIn(optionRows()), rowName<LineRow>);
+INSTANTIATE_TEST_SUITE_P(Arguments, CompleteLine, testing::ValuesIn(argumentRows()), rowName<LineRow>);
+INSTANTIATE_TEST_SUITE_P(KeyPaths, CompleteLine, testing::ValuesIn(keyPathRows()), rowName<LineRow>);
 
 TEST(CompleteOptions, DescribesEachOptionInItsOwnWords) {
   std::map<std::string, std::string> optionOf;

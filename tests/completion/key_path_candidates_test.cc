@@ -9,6 +9,7 @@
 #include "completion/candidate_list.h"
 #include "json/member_finder.h"
 #include "json/path/resolve_key_path.h"
+#include "support/row.h"
 
 namespace kovalt::test {
 namespace {
@@ -144,11 +145,9 @@ TEST_P(KeyPathCandidates, AreFoundByTheWalk) {
   }
 }
 
-std::string rowName(const testing::TestParamInfo<CandidateRow>& info) { return info.param.name; }
-
-INSTANTIATE_TEST_SUITE_P(Members, KeyPathCandidates, testing::ValuesIn(memberRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(Selections, KeyPathCandidates, testing::ValuesIn(selectionRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(Removals, RemovalCandidates, testing::ValuesIn(removalRows()), rowName);
+INSTANTIATE_TEST_SUITE_P(Members, KeyPathCandidates, testing::ValuesIn(memberRows()), rowName<CandidateRow>);
+INSTANTIATE_TEST_SUITE_P(Selections, KeyPathCandidates, testing::ValuesIn(selectionRows()), rowName<CandidateRow>);
+INSTANTIATE_TEST_SUITE_P(Removals, RemovalCandidates, testing::ValuesIn(removalRows()), rowName<CandidateRow>);
 
 /// Returns an array of more objects than a list of candidates can show.
 Document longArray() {

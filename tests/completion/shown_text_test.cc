@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "support/row.h"
+
 namespace kovalt::test {
 namespace {
 
@@ -74,10 +76,8 @@ class NotShownText : public testing::TestWithParam<TextRow> {};
 TEST_P(ShownText, CanBeShown) { EXPECT_TRUE(canBeShown(GetParam().text)); }
 TEST_P(NotShownText, CannotBeShown) { EXPECT_FALSE(canBeShown(GetParam().text)); }
 
-std::string rowName(const testing::TestParamInfo<TextRow>& info) { return info.param.name; }
-
-INSTANTIATE_TEST_SUITE_P(Texts, ShownText, testing::ValuesIn(shownRows()), rowName);
-INSTANTIATE_TEST_SUITE_P(Texts, NotShownText, testing::ValuesIn(notShownRows()), rowName);
+INSTANTIATE_TEST_SUITE_P(Texts, ShownText, testing::ValuesIn(shownRows()), rowName<TextRow>);
+INSTANTIATE_TEST_SUITE_P(Texts, NotShownText, testing::ValuesIn(notShownRows()), rowName<TextRow>);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -6,7 +6,7 @@
 namespace kovalt::test {
 namespace {
 
-std::vector<ToolCall> rows() {
+std::vector<ToolCall> arrayAdditionsRows() {
   return {
       // Strings.
       added("strings_keep_their_order_and_bytes", "-aa k b a b 1 TRUE \"\n\xC3\xA9\xFF",
@@ -60,7 +60,7 @@ std::vector<ToolCall> rows() {
   };
 }
 
-const Table kArrayAdditions("ArrayAdditions", rows);
+const Table kArrayAdditions("ArrayAdditions", arrayAdditionsRows);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -12,7 +12,7 @@ ToolCall arrayRead(const std::string& name, const std::string& content, const st
   return ToolCall(name).given("f.json", content).call({"-f", "f.json", option, "a"});
 }
 
-std::vector<ToolCall> rows() {
+std::vector<ToolCall> arrayReadingRows() {
   return {
       arrayRead("empty_array", R"({"a":[ ]})", "-ras").printsLine(""),
       arrayRead("empty_strings_by_commas_without_quotes", R"({"a":["","",""]})", "-racq").printsLine(",,"),
@@ -76,7 +76,7 @@ std::vector<ToolCall> rows() {
   };
 }
 
-const Table kArrayReading("ArrayReading", rows);
+const Table kArrayReading("ArrayReading", arrayReadingRows);
 
 }  // namespace
 }  // namespace kovalt::test

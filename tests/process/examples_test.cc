@@ -88,7 +88,7 @@ constexpr auto kServiceAtNorth = R"({
   }
 })";
 
-std::vector<ToolCall> rows() {
+std::vector<ToolCall> examplesRows() {
   return {
       example("port_of_the_service", "service.json", "-r network.webSocketPort").printsLine("8765"),
       example("numbers_of_the_service", "service.json", "-r instanceId -r logging.sampling -r production").prints(R"({
@@ -132,7 +132,7 @@ std::vector<ToolCall> rows() {
   };
 }
 
-const Table kExamples("Examples", rows);
+const Table kExamples("Examples", examplesRows);
 
 }  // namespace
 }  // namespace kovalt::test

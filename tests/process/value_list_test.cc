@@ -16,7 +16,7 @@ ToolCall ended(const std::string& name, const std::string& argument) {
   return ToolCall(name).prints(invalidArgument(argument)).exits(1);
 }
 
-std::vector<ToolCall> rows() {
+std::vector<ToolCall> valueListRows() {
   return {
       listed("empty_lists", "--addArray a --addArrayNumber b --addArrayBoolean c", R"({"a":[],"b":[],"c":[]})"),
       listed("lists_end_at_an_option", "-aan k 1 2 -aab l 1 0 -aa m x -as n y",
@@ -63,7 +63,7 @@ std::vector<ToolCall> rows() {
   };
 }
 
-const Table kValueLists("ValueLists", rows);
+const Table kValueLists("ValueLists", valueListRows);
 
 }  // namespace
 }  // namespace kovalt::test

@@ -24,7 +24,7 @@ constexpr int kTries = 600;
 constexpr int kTries = 50;
 #endif
 
-std::string jsonOf(double value) {
+std::string numberText(double value) {
   std::array<char, kLongestDouble> text{};
   return {text.data(), writeDouble(value, text.data())};
 }
@@ -74,7 +74,7 @@ bool readsFromFewer(const Digits& digits, double value) {
 
 /// Checks the text of a positive number. Returns whether RapidJSON writes the same.
 bool check(double value) {
-  const std::string text = jsonOf(value);
+  const std::string text = numberText(value);
   const std::string theirs = textOfRapidJson(value);
   const Digits digits = digitsOf(text);
   const std::size_t theirLength = digitsOf(theirs).text.size();
@@ -136,8 +136,8 @@ struct NumberRow : Row {
 class NumberText : public testing::TestWithParam<NumberRow> {};
 
 TEST_P(NumberText, IsAsExpected) {
-  EXPECT_EQ(jsonOf(GetParam().value), GetParam().text);
-  EXPECT_EQ(jsonOf(-GetParam().value), "-" + GetParam().text);
+  EXPECT_EQ(numberText(GetParam().value), GetParam().text);
+  EXPECT_EQ(numberText(-GetParam().value), "-" + GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(

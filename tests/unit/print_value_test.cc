@@ -12,7 +12,7 @@ namespace kovalt::test {
 namespace {
 
 /// The size of the output buffer.
-constexpr std::size_t kBuffer = 65536;
+constexpr std::size_t kPiece = 65536;
 
 std::string printed(const Value& value) {
   const Printed result = capture([&] { printValue(value); });
@@ -64,7 +64,7 @@ TEST(PrintValue, EscapesEachCharacterInNamesAndStrings) {
 }
 
 TEST(PrintValue, PrintsStringsAcrossTheEndOfTheBuffer) {
-  for (std::size_t length = kBuffer - 12; length < kBuffer + 12; ++length) {
+  for (std::size_t length = kPiece - 12; length < kPiece + 12; ++length) {
     Document document;
     const std::string text = std::string(length, 'x') + "\n\x01yz";
     document.SetArray().PushBack(copyText(text, document.GetAllocator()), document.GetAllocator());
