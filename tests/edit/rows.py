@@ -66,8 +66,9 @@ READ = b"""{
 HELP = [Row("help", "", file="--help", prints=b"""\
 Usage: kovalt-edit [--create] FILE OPTION...
 
-Applies the options of "Kovalt --file FILE OPTION..." completely or not at all,
-and refuses whatever Kovalt reports. --create creates FILE if it does not exist.
+Applies the options of "Kovalt --file FILE OPTION..." completely or not at all.
+Fails, without changing FILE, if Kovalt reports a problem. --create creates FILE
+if it does not exist.
 """)]
 EVERY_BYTE = bytes(set(range(0x20, 0x100)) - set(b'"\\\x7f'))
 SHELL_WORDS = "$HOME `id` * ${1} $(id) 'x' ~"
@@ -148,8 +149,8 @@ def extended(path, name, value):
 # An access control list of (tag, permissions, id): owner, user 1234, group, mask, others.
 ACCESS = struct.pack("<I", 2) + b"".join(struct.pack("<HHI", *entry) for entry in (
     (1, 6, 0xFFFFFFFF), (2, 6, 1234), (4, 0, 0xFFFFFFFF), (16, 6, 0xFFFFFFFF), (32, 0, 0xFFFFFFFF)))
-NOT_KEPT = "its attributes cannot be kept"
-NO_COPY = "no copy can be made beside it"
+NOT_KEPT = "cannot copy its attributes"
+NO_COPY = "cannot create a copy in its folder"
 FILES = [
     *(Row(f"the name {name!r}", file=name, create=True, files={name: SMALL, "f": b"{}"}, leaves={name: EDITED})
       for name in ("-x", "--create", "f\n\n", "$d'\"*\\\n/ f'\"*\\ ")),
@@ -189,8 +190,8 @@ FILES = [
 
 
 def limited(size):
-    """Lets no file grow beyond a number of bytes, with the error of a full file system."""
-    return {"before": ["env", "--ignore-signal=XFSZ", "prlimit", f"--fsize={size}"]}
+    """Lets no file grow beyond a number of bytes."""
+    return {"before": ["prlimit", f"--fsize={size}"]}
 
 
 def closed(streams):
@@ -229,6 +230,7 @@ SURROUNDINGS = [
             saved({"a": "x" * 8_000_000}), how={"before": ["prlimit", "--as=16000000"]}),
     refuses("no limit for cores", "-an k x", "a value given as a number is not a number", how={"before": CORES}),
     edits("standard output is full", "-as k v -r k", SMALL, EDITED, how={"stdout": FULL}),
+    refuses("standard output is full, without an edit", "-r a", "the output cannot be written", how={"stdout": FULL}),
     edits("nobody reads standard output", "-as k v -r k", SMALL, EDITED, how={"stdout": UNREAD}, status=143),
     Row("nobody reads the output of a read", "-r a", how={"stdout": UNREAD}, status=143),
     edits("no stream is open", "-as k v -r k", SMALL, EDITED, how=closed("<&- >&- 2>&-")),
