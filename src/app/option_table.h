@@ -24,8 +24,8 @@ enum class ArgumentKind {
 /// What follows the first argument of an option.
 struct FurtherArguments {
   ArgumentKind kind = ArgumentKind::none;
-  bool isList = false;            ///< Whether there is any number of them; otherwise there is exactly one.
-  bool endsInSeparators = false;  ///< Whether the last value of the list is the separators instead.
+  bool isList = false;            ///< Whether any number may follow; otherwise exactly one, or none of kind `none`.
+  bool endsInSeparators = false;  ///< Whether the last value of the list contains the separators.
 };
 
 /// What an option adds to a call.

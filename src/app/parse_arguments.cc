@@ -32,21 +32,21 @@ bool parseOption(ToolContext& context, int& position, int argumentCount, const c
   if (argumentCount - position <= option->requiredArguments) {
     return failForMissingArgument(form);
   }
-  OptionArguments taken;
-  taken.first = arguments[++position];
+  OptionArguments parsed;
+  parsed.first = arguments[++position];
   if (option->further.isList) {
-    taken.list = collectValues(position, argumentCount, arguments);
+    parsed.list = collectValues(position, argumentCount, arguments);
   } else if (option->further.kind != ArgumentKind::none) {
-    taken.second = arguments[++position];
+    parsed.second = arguments[++position];
   }
   if (option->further.endsInSeparators) {
-    if (taken.list.size() < 2) {
+    if (parsed.list.size() < 2) {
       return failForMissingArgument(form);
     }
-    taken.separators = std::move(taken.list.back());
-    taken.list.pop_back();
+    parsed.separators = std::move(parsed.list.back());
+    parsed.list.pop_back();
   }
-  option->addTo(context, std::move(taken));
+  option->addTo(context, std::move(parsed));
   return true;
 }
 

@@ -9,7 +9,7 @@
 namespace kovalt {
 namespace {
 
-/// Whether nothing but the reads looks at the document.
+/// Whether only the reads use the document.
 bool onlyReads(const ToolContext& context) {
   return context.editActions.empty() && context.removeActions.empty() && !context.displayResult &&
          !context.readActions.empty();
@@ -39,7 +39,7 @@ void applyEdits(const ToolContext& context, EditedDocument& document) {
   }
 }
 
-/// Whether there were removals and all of them succeeded: only then have they modified the document.
+/// Applies the removals. Returns whether they count as a modification: there are some, and all succeeded.
 bool applyRemovals(const ToolContext& context, EditedDocument& document) {
   bool allRemovalsOk = !context.removeActions.empty();
   for (const auto& action : context.removeActions) {

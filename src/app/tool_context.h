@@ -1,7 +1,5 @@
 #pragma once
 
-// The parsed command line.
-
 #include <memory>
 #include <string>
 #include <vector>

@@ -28,7 +28,7 @@ inline constexpr std::array<bool, 256> kIsUnescaped = [] {
   return unescaped;
 }();
 
-/// Whether `character` is itself in a JSON string, not a quote, the start of an escape or a control character.
+/// Whether `character` needs no escape in a JSON string: it is not a quote, a backslash or a control character.
 inline bool isUnescaped(char character) { return kIsUnescaped[static_cast<unsigned char>(character)]; }
 
 /// Eight characters in a word, on every processor.
@@ -125,7 +125,8 @@ using CharacterBlock = WordBlock;
 #endif
 
 /// Copies the unescaped characters at the front of the `size` characters at `from`, and returns their number. Requires
-/// a whole block at `from`. May overwrite all `size` characters at `to`, but nothing after them.
+/// a whole block at `from`. May overwrite all `size` characters at `to`, which must not overlap them, but nothing
+/// after.
 template <typename Block>
 std::size_t copyUnescapedBlocks(const char* from, std::size_t size, char* to) {
   std::size_t copied = 0;
@@ -155,8 +156,8 @@ inline std::size_t copyUnescaped(const char* from, std::size_t size, char* to) {
   return copied;
 }
 
-/// Returns the first character from `text` on that is not unescaped. Requires that there is one, and that a whole block
-/// is readable up to there.
+/// Returns the first character from `text` on that is not unescaped. Requires that there is one, and that
+/// `Block::kSize` characters are readable from each position up to it.
 template <typename Block>
 const char* endOfUnescaped(const char* text) {
   std::size_t count = Block::kSize;
@@ -167,8 +168,8 @@ const char* endOfUnescaped(const char* text) {
   return text;
 }
 
-/// The same for runs that are usually short, such as names: the processor predicts their end better than it waits for a
-/// block.
+/// The same for runs that are usually short, such as names. Tests the first eight characters one by one, because a
+/// predicted branch is faster than waiting for the result of a block.
 template <typename Block>
 const char* endOfShortUnescaped(const char* text) {
   for (const char* const end = text + WordBlock::kSize; text != end; ++text) {

@@ -13,8 +13,7 @@ inline constexpr bool kChecksContracts = true;
 inline constexpr bool kChecksContracts = false;
 #endif
 
-/// States what a documented precondition or postcondition says. Aborts where `holds` is false and contracts are
-/// checked.
+/// Checks a documented precondition or postcondition: aborts if `holds` is false and this build checks contracts.
 inline void require(bool holds) {
   if (kChecksContracts && !holds) {
     std::abort();

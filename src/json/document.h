@@ -17,8 +17,8 @@ namespace kovalt {
 static_assert(RAPIDJSON_MAJOR_VERSION == 1 && RAPIDJSON_MINOR_VERSION == 1 && RAPIDJSON_PATCH_VERSION == 0,
               "the specialisations beside Kovalt's streams replace functions of RapidJSON 1.1.0");
 
-/// The document of a run. Its memory pool allocates chunks of 65,536 bytes, never uses memory twice, and frees all
-/// chunks when the document is destroyed.
+/// The document of a run. Its memory pool allocates chunks of at least 65,536 bytes, never uses memory twice, and frees
+/// all chunks when the document is destroyed.
 using Document =
     rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<AbortingAllocator>, AbortingAllocator>;
 
@@ -28,7 +28,7 @@ using Allocator = Document::AllocatorType;
 /// A value inside a document or on its way into one.
 using Value = Document::ValueType;
 
-/// The bytes of the string `value`, which keeps owning them. RapidJSON counts the bytes of strings in 32 bits.
+/// The bytes of the string `value`, valid until it changes or moves. RapidJSON counts the bytes of strings in 32 bits.
 inline std::string_view textOf(const Value& value) { return {value.GetString(), value.GetStringLength()}; }
 
 /// A string with a copy of `text`, allocated from `allocator`.

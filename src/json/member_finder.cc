@@ -61,15 +61,15 @@ bool MemberFinder::remove(Value& object, std::string_view name) {
   if (object.MemberCount() <= IndexBudget::kEntryCost) {
     // It may have had an index when it was larger.
     indexes_.erase(membersOf(object));
-  } else if (const auto index = indexes_.find(membersOf(object)); position < index->second.size()) {
-    index->second.remove(position, last, hashOf(nameAt(object, last)));
+  } else if (Index& index = indexes_[membersOf(object)]; position < index.size()) {
+    index.remove(position, last, hashOf(nameAt(object, last)));
   }
   object.RemoveMember(object.MemberBegin() + static_cast<std::ptrdiff_t>(position));
   return true;
 }
 
 SizeType MemberFinder::positionOf(const Value& object, std::string_view name) {
-  // What is not an object is left to the assertion of the scan.
+  // For a value that is not an object, an assertion of `FindMember` aborts.
   const SizeType count = object.IsObject() ? object.MemberCount() : 0;
   if (count <= IndexBudget::kEntryCost) {
     return static_cast<SizeType>(object.FindMember(referToText(name)) - object.MemberBegin());

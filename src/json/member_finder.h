@@ -43,7 +43,7 @@ class MemberFinder {
   bool remove(Value& object, std::string_view name);
 
  private:
-  /// The members at the front of an object by the hashes of their names: chains of ascending positions.
+  /// A hash table of the members at the front of an object. Each chain contains positions in ascending order.
   class Index {
    public:
     /// The number of members in the index.
@@ -52,7 +52,7 @@ class MemberFinder {
     [[nodiscard]] rapidjson::SizeType find(const Value& object, std::string_view name, std::uint32_t hash) const;
     /// Adds the member at position `size()`, whose name has that hash, to the index of an object with `count` members.
     void add(std::uint32_t hash, rapidjson::SizeType count);
-    /// Does what a removal does that moves the member at position `last` to `position`.
+    /// Updates the index for a removal that moves the member at `last` to `position`.
     void remove(rapidjson::SizeType position, rapidjson::SizeType last, std::uint32_t hashOfLast);
 
     IndexBudget budget;
@@ -60,13 +60,13 @@ class MemberFinder {
    private:
     struct Place {
       std::uint32_t hash;
-      rapidjson::SizeType previous;  ///< In the first place of a chain, its last one.
+      rapidjson::SizeType previous;  ///< For the first of a chain, the last of it.
       rapidjson::SizeType next;
     };
 
     void insert(rapidjson::SizeType position);
     void erase(rapidjson::SizeType position);
-    /// Checks where contracts are that a chain is linked in both directions and ascends.
+    /// In builds that check contracts, checks that a chain is linked in both directions and ascends.
     void checkChain(std::uint32_t hash) const;
     rapidjson::SizeType& chainOf(std::uint32_t hash) { return chains_[hash % chains_.size()]; }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The two places where the tool's own code ends a call early. A failed assertion of RapidJSON and an exception of
+// The two ways in which the tool's own code ends a call early. A failed assertion of RapidJSON and an exception of
 // std::stoi, which nothing catches, abort a call too.
 
 namespace kovalt {

@@ -12,7 +12,8 @@ namespace kovalt {
 /// which would make every lookup a scan.
 class TextHash {
  public:
-  /// Takes the key from addresses, which differ from call to call.
+  /// Derives the key from addresses of the stack and of the code, which the system randomises. In a program that is not
+  /// position-independent, only that of the stack differs between calls.
   TextHash();
 
   /// For tests.

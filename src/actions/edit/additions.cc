@@ -35,7 +35,7 @@ void reportRejectedBoolean(std::string_view rejected) {
   reportLine(message);
 }
 
-/// Replaces `target` by an array of what `makeElement` makes of each value. Returns false for a null target.
+/// Replaces `target` by an array with the result of `makeElement` for each value. Returns false for a null target.
 template <typename MakeElement>
 bool setArray(Value* target, const std::vector<std::string>& values, Allocator& allocator, MakeElement makeElement) {
   if (target == nullptr) {

@@ -62,7 +62,6 @@ class AddArrayAction : public EditAction {
   AddArrayAction(std::string_view keyPath, std::vector<std::string> values)
       : EditAction(keyPath), values_(std::move(values)) {}
 
-  /// Adds each value up to its first NUL byte.
   bool apply(Value* target, EditedDocument& document) const override;
 
  private:

@@ -10,7 +10,7 @@
 
 namespace kovalt {
 
-/// An addition: it writes one value at the place that its key path names.
+/// An addition: it sets or changes the value that its key path names.
 class EditAction {
  public:
   explicit EditAction(std::string_view keyPath) : keyPath_(keyPath) {}
@@ -18,10 +18,9 @@ class EditAction {
   EditAction& operator=(const EditAction&) = delete;
   virtual ~EditAction() = default;
 
-  /// Replaces `target`, a value of `document` or on its way into it, by the action's value, whatever it was. Returns
-  /// false with `target` unchanged for a value that is not accepted, after a report on standard error, and for a null
-  /// target, silently: a path that leads nowhere may be passed on unchecked. The base has no value: it changes nothing
-  /// and returns true.
+  /// Changes `target`, a value of `document` or on its way into it, as the class of the action says. Returns false with
+  /// `target` unchanged for a value that is not accepted, after a report on standard error, and for a null target,
+  /// silently: a path that leads nowhere may be passed on unchecked. The base changes nothing and returns true.
   virtual bool apply(Value* target, EditedDocument& document) const;
 
   [[nodiscard]] const KeyPath& keyPath() const { return keyPath_; }

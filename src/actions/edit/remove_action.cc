@@ -8,7 +8,7 @@
 namespace kovalt {
 namespace {
 
-/// The way to the object that has the member which the last step names.
+/// The objects on the path to a removed member.
 struct Walk {
   /// The root, then the object of each step but the last; nullptr for a step that was skipped.
   std::vector<Value*> ancestors;
@@ -37,7 +37,7 @@ void removeEmptyAncestors(const std::vector<std::string>& steps, const std::vect
                           MemberFinder& members) {
   for (std::size_t i = ancestors.size() - 1; i > 0; --i) {
     if (ancestors[i] == nullptr || ancestors[i - 1] == nullptr) {
-      // It is not known what to clear along a path with a skipped step: abort before anything is printed or saved.
+      // A path with a skipped step does not say which objects to clear: abort before anything is printed or saved.
       abortProcess();
     }
     if (ancestors[i]->ObjectEmpty()) {

@@ -20,7 +20,8 @@ class RemoveAction : public KeyPath {
   ///
   /// Returns whether it succeeded. A path without steps always does, and so does a path of several steps whose last is
   /// missing; a path of a single missing step does not. Aborts the process if the path has a single step and the root
-  /// is not an object, and if objects are to be cleared along a path that skipped a step.
+  /// is not an object, and, with `EmptyParents::clear`, if a member was removed by a path that
+  /// skipped a step, one that does not name an object.
   virtual bool execute(EditedDocument& document) const;
 
  private:

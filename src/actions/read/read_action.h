@@ -1,6 +1,6 @@
 #pragma once
 
-// The read of one value, which is also the first step of every other read.
+// The read of one value, and the common base of all reads.
 
 #include <memory>
 #include <string>

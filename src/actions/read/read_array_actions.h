@@ -16,8 +16,7 @@ bool isArrayText(const std::string& text);
 void stripBrackets(std::string& text);
 
 /// Replaces every comma outside double quotes by a space. Every double quote, even an escaped one, opens or closes a
-/// quoted part. If there is a quote at all, the last byte is not examined: it cannot be a separator. `text` must not be
-/// empty.
+/// quoted part. If there is a quote at all, the last byte is not examined: it cannot be a separator.
 void commasToSpaces(std::string& text);
 
 /// Deletes every double quote, even escaped ones, whose backslashes stay.

@@ -38,7 +38,7 @@ bool ReadObjectArrayConcatAction::execute(const Value& value, std::string& text,
 }
 
 std::string ReadObjectArrayConcatAction::readRecord(const Value& element) const {
-  // Shared by the fields only: of many elements, each is looked up in a few times.
+  // One per element, because an element is searched only once for each field.
   Lookups lookups;
   std::string record;
   for (std::size_t i = 0; i < fields_.size(); ++i) {

@@ -10,7 +10,7 @@
 
 namespace kovalt {
 
-/// By the text of a record, how many elements made it. Sorted as bytes.
+/// The number of elements with each record, by the text of the record; sorted as bytes.
 using ConcatRecords = std::map<std::string, std::int32_t>;
 
 /// All records in order, separated by spaces, each followed by its count in parentheses if that is above 1.

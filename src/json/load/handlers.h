@@ -20,13 +20,14 @@ namespace kovalt {
 template <typename Handler>
 class TokenHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Handler> {
  public:
+  /// `reader` must outlive the handler.
   explicit TokenHandler(TokenReader& reader) : reader_(reader) {}
 
   bool name(Scanner& scanner) { return readText(scanner, scanner.readName()); }
   bool string(Scanner& scanner) { return readText(scanner, scanner.readString()); }
 
  protected:
-  /// Reads the token that comes next with RapidJSON's reader. It must not be the start of an array or object.
+  /// Lets RapidJSON's reader read the next token, which must not be the start of an array or object.
   template <unsigned parseFlags = rapidjson::kParseNoFlags>
   bool readByReader(Scanner& scanner) {
     require(scanner.peek() != '[' && scanner.peek() != '{');

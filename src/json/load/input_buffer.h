@@ -10,7 +10,7 @@
 
 namespace kovalt {
 
-/// Holds 8,192 bytes of a file at a time, and the cursor of whoever reads them.
+/// Holds 8,192 bytes of a file at a time, and the cursor into them.
 ///
 /// DESCRIPTION. The cursor points to the next byte to read. It has one holder at a time: a scanner or a reader takes it
 /// from the buffer and returns it when it is destroyed. A cursor is ready when it points to a byte of the file or when
@@ -30,21 +30,21 @@ class InputBuffer {
   InputBuffer(const InputBuffer&) = delete;
   InputBuffer& operator=(const InputBuffer&) = delete;
 
-  /// Hands out the cursor. Requires that nobody holds it.
+  /// Gives the cursor to the caller. Requires that nobody holds it.
   const char* takeCursor() {
     require(cursor_ != nullptr);
     return std::exchange(cursor_, nullptr);
   }
 
-  /// Takes the cursor back from its holder.
+  /// Takes the cursor back from its holder. A refill may be pending.
   void returnCursor(const char* cursor) {
     require(cursor_ == nullptr);
     cursor_ = cursor;
   }
 
-  /// Makes `cursor` ready, which points to a NUL byte: at the end of the buffer, reads the next bytes and returns a
-  /// cursor to the first of them; otherwise returns `cursor`. At the end of the file the result points to a NUL byte
-  /// too.
+  /// Makes `cursor` ready. Requires that it points to a NUL byte, of the file or of the look-ahead. At the end of the
+  /// buffer, reads the next bytes and returns a cursor to the first of them; at the end of the file, returns the end,
+  /// where there is a NUL byte too; otherwise returns `cursor`.
   const char* refill(const char* cursor);
 
   /// Returns the first place from `cursor` on that is not whitespace, across the ends of the buffer. A refill may be
@@ -60,8 +60,9 @@ class InputBuffer {
   /// Whether `cursor` is ready.
   [[nodiscard]] bool isReady(const char* cursor) const { return cursor < end_ || (cursor == end_ && holdsLastBytes()); }
 
-  /// The number of bytes of the file before `cursor`.
+  /// The number of bytes of the file before `cursor`, which must be ready.
   [[nodiscard]] std::size_t offsetOf(const char* cursor) const {
+    require(isReady(cursor));
     return before_ + static_cast<std::size_t>(cursor - bytes_);
   }
 
@@ -69,7 +70,7 @@ class InputBuffer {
   static constexpr std::size_t kSize = 8192;
 
   void fill();
-  /// A read that does not fill the buffer came to the end of the file, after which nothing may be read again.
+  /// A read that does not fill the buffer has reached the end of the file or failed; nothing may be read after it.
   [[nodiscard]] bool holdsLastBytes() const { return end_ != bytes_ + kSize; }
 
   // Not initialised, which would cost more than reading a small file. Aligned to a page, where the system copies

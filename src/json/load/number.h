@@ -52,8 +52,9 @@ inline DigitBlock readDigitBlock(const char* block) {
 
 /// Returns the end of the number at `text` by JSON's grammar, and sets `decimals` to how many digits it has after the
 /// point. Returns nullptr for what is left to RapidJSON's reader: what is not a number, has an exponent, or ends at a
-/// NUL byte, where it may continue after the buffer. `endOfDigits` is called with the start of each run of digits and
-/// returns its end. Requires a NUL byte after the text, and what `endOfDigits` requires.
+/// NUL byte, where it may continue after the buffer. `decimals` is then unspecified. `endOfDigits` is called with the
+/// start of each run of digits and returns its end. Requires a NUL byte after the text, and what `endOfDigits`
+/// requires.
 template <typename EndOfDigits>
 const char* endOfNumber(const char* text, EndOfDigits endOfDigits, std::ptrdiff_t& decimals) {
   const char* const whole = text + (*text == '-' ? 1 : 0);
@@ -98,7 +99,8 @@ inline const char* appendDigits(const char* text, std::uint64_t& value) {
 }
 
 /// Reads the number at `text` into `number` and returns its end. Returns nullptr, with `number` unspecified, for what
-/// `endOfNumber` leaves to RapidJSON's reader and for more than 17 significant digits, or 19 with leading zeros.
+/// `endOfNumber` leaves to RapidJSON's reader, and for numbers with more than 17 significant digits or more than 19
+/// digits including leading zeros.
 /// Requires a NUL byte after the text and eight readable characters from there on.
 inline const char* readNumber(const char* text, Number& number) {
   constexpr std::ptrdiff_t kMostDigits = 19;  // More of them could overflow.
@@ -113,12 +115,12 @@ inline const char* readNumber(const char* text, Number& number) {
              : end;
 }
 
-/// The value of a number with decimals as RapidJSON's reader computes it.
+/// The value of a number with decimals, from `readNumber`, as RapidJSON's reader computes it.
 inline double toDouble(const Number& number) {
   constexpr std::uint64_t kMostExact = (std::uint64_t{1} << 53) - 1;
   const std::uint64_t allButLast = number.digits / 10;
   // From 2^53 on, RapidJSON multiplies by 10 for another digit and may round twice.
-  const double whole = number.digits < Number::kTooManyDigits / 10 || allButLast <= kMostExact
+  const double whole = allButLast <= kMostExact
                            ? static_cast<double>(number.digits)
                            : static_cast<double>(allButLast) * 10.0 + static_cast<double>(number.digits % 10);
   const double value = rapidjson::internal::StrtodNormalPrecision(whole, -number.decimals);

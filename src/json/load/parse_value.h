@@ -1,6 +1,6 @@
 #pragma once
 
-// The loop through a value, the one way through the text of a file.
+// The loop that parses a value. Every file is parsed by it.
 
 #include <rapidjson/rapidjson.h>
 
@@ -40,7 +40,7 @@ class ContainerStack {
 
  private:
   static constexpr std::size_t kWordSize = 64;
-  static constexpr std::size_t kUnused = 1;  ///< Bits of the first word, so that most texts need no other one.
+  static constexpr std::size_t kUnused = 1;  ///< Of the first word, whose other 63 bits need no allocation.
 
   std::size_t used_ = kUnused;        ///< The number of bits in all words.
   std::uint64_t innermost_ = 0;       ///< The innermost containers; the lowest bit is the innermost one.
@@ -48,16 +48,15 @@ class ContainerStack {
 };
 
 /// Parses the value at the cursor of `buffer`, which must be ready, and accepts what RapidJSON's reader accepts.
-/// Returns false if it is not JSON or `handler` refused it. On success a refill is pending at the cursor.
-///
-/// The handler consumes names, strings and all other scalars from the scanner; false means that the text is not JSON:
-///   bool name(Scanner&), bool string(Scanner&), bool other(Scanner&)
-/// It is called at the start of an array or object with its bracket and the number of elements or members of the
-/// container around it, this one included, and may return false: `other` must then consume it as a whole.
-///   bool open(char bracket, SizeType outerCount)
-/// It is called at the end of each container that it let open, with the closing bracket and the number of its elements
-/// or members, and returns the number that `open` got if it needs any numbers.
-///   SizeType close(char bracket, SizeType count)
+/// Returns false if it is not JSON or `handler` refused it; the buffer must not be used any more then. On success a
+/// refill is pending at the cursor. The handler has these operations:
+/// - `bool name(Scanner&)`, `bool string(Scanner&)`, `bool other(Scanner&)` consume a name, a string or another value,
+///   and return false if it is not JSON.
+/// - `bool open(char bracket, SizeType outerCount)`: an array or object starts. `outerCount` is the number of elements
+///   or members of the container around it so far, this one included. If it returns false, `other` must consume the
+///   whole value.
+/// - `SizeType close(char bracket, SizeType count)`: a container for which `open` returned true ends, with `count`
+///   elements or members. It must return the `outerCount` of that `open`, unless the handler ignores all counts.
 template <typename Handler>
 bool parseValue(InputBuffer& buffer, Handler& handler) {
   Scanner scanner(buffer);

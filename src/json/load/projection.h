@@ -14,14 +14,14 @@
 
 namespace kovalt {
 
-/// Says for each place of a document how much of a value there is kept.
+/// For each place of a document, which part of the values there is kept.
 ///
 /// Members that are not named are not kept, nor are elements that were not added. Of several members with the same name
-/// the first is kept. A value on the way that is not kept itself is replaced by an empty value of its kind, which every
-/// walk looks at: an array or an object without content, or null for everything else.
+/// the first is kept. A value on the way that is not kept itself is replaced by an empty value of its kind, because
+/// every walk checks the kind: an array or an object without content, or null for everything else.
 class Projection {
  public:
-  /// A place that walks reach. All elements of an array are at the same place.
+  /// A place that walks reach, of the projection that returned it. All elements of an array are at the same place.
   using Place = std::size_t;
 
   /// The place of the root.
@@ -38,7 +38,8 @@ class Projection {
   Place addMember(Place object, std::string_view name);
 
   /// Adds all members of an object at `object` whose names begin with `prefix`, also those with the same name. They are
-  /// at one place, except for members that are added by name. Must not be called twice for a place. Returns that place.
+  /// at one place, except for members that are added by name. Must not be called twice for a place. Returns the place
+  /// of these members.
   Place addMembers(Place object, std::string_view prefix);
 
   /// Adds the elements of an array at `array`. Returns their place.

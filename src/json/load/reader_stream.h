@@ -15,8 +15,8 @@
 
 namespace kovalt {
 
-/// An input stream of RapidJSON's kind. Holds the cursor of a buffer, which is always ready here, while the reader
-/// runs.
+/// An input stream of RapidJSON's kind. Holds the cursor of a buffer, which must outlive it, while RapidJSON's reader
+/// runs. The cursor is ready between operations, and must be ready at the start.
 class ReaderStream {
  public:
   using Ch = char;
@@ -25,13 +25,12 @@ class ReaderStream {
     require(buffer.isReady(next_));
   }
   ReaderStream(const ReaderStream&) = delete;
-  ReaderStream& operator=(const ReaderStream&) = delete;
   ~ReaderStream() { buffer_.returnCursor(next_); }
 
   /// The next character; NUL at the end of the file.
   [[nodiscard]] char Peek() const { return *next_; }
 
-  /// Returns and skips the next character.
+  /// Returns and skips the next character. At the end of the file returns NUL and stays there.
   char Take() {
     const char taken = *next_;
     skip(1);
@@ -46,7 +45,7 @@ class ReaderStream {
     return {next_, static_cast<std::size_t>(endOfUnescaped<CharacterBlock>(next_) - next_)};
   }
 
-  /// Skips `count` characters of the buffer.
+  /// Skips `count` characters, which must be in the buffer; or one at the end of the file, which skips nothing.
   void skip(std::size_t count) {
     next_ += count;
     if (*next_ == '\0') {
@@ -55,7 +54,7 @@ class ReaderStream {
   }
 
   /// Where the reader puts the characters of a string when it parses in situ: nowhere, so that it skips strings of any
-  /// length without keeping them.
+  /// length without keeping them. It subtracts the terminating NUL, so 1 means an empty string.
   static char* PutBegin() { return nullptr; }
   static void Put(char /*character*/) {}
   static std::size_t PutEnd(char* /*begin*/) { return 1; }
@@ -74,8 +73,8 @@ using TokenReader = rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<
 
 namespace rapidjson {
 
-/// Replaces the reader's step for characters of a string that need no look at each of them, for strings that are kept.
-/// It may leave any number of them to the reader.
+/// Replaces the reader's function that copies the unescaped characters of a string, for strings that are kept. It may
+/// stop early; the reader copies the rest one by one.
 template <>
 template <>
 inline void kovalt::TokenReader::ScanCopyUnescapedString(kovalt::ReaderStream& stream, StackStream<char>& text) {

@@ -27,9 +27,9 @@ namespace kovalt {
 /// the scanner, so that a loop which owns one can keep the cursor in a register.
 class Scanner {
  public:
+  /// `buffer` must outlive the scanner. If a refill is pending, the first operation must accept that.
   explicit Scanner(InputBuffer& buffer) : buffer_(buffer), next_(buffer.takeCursor()) {}
   Scanner(const Scanner&) = delete;
-  Scanner& operator=(const Scanner&) = delete;
   ~Scanner() { buffer_.returnCursor(next_); }
 
   /// The next character; NUL at the end of the file.
@@ -94,7 +94,7 @@ class Scanner {
     return readStringTo(endOfShortUnescaped<CharacterBlock>(next_ + 1));
   }
 
-  /// Reads a number of up to 17 digits without an exponent. A refill is then pending. Returns nothing, with the cursor
+  /// Reads a number that `kovalt::readNumber` accepts. A refill is then pending. Returns nothing, with the cursor
   /// where it was, for all other numbers and for what is not a number.
   std::optional<Number> readNumber() {
     requireReady();

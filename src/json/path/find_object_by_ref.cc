@@ -16,8 +16,8 @@ constexpr SizeType kNowhere = static_cast<SizeType>(-1);
 
 SizeType firstOf(const std::set<SizeType>& positions) { return positions.empty() ? kNowhere : *positions.begin(); }
 
-/// The text to select by. The text of a number reads back as just this number, so only an equal number has to be
-/// written to compare it.
+/// The refValue of a selection. Numbers are compared by their text; a number with another value has another text, so
+/// only equal numbers are converted to text.
 struct Wanted {
   [[nodiscard]] bool matches(const Value& scalar) const {
     if (scalar.IsNumber()) {
@@ -50,7 +50,7 @@ const Value* findObjectByRef(const Value* array, std::string_view refKey, std::s
 
 const Value* ElementFinder::find(const Value* array, std::string_view refKey, std::string_view refValue) {
   if (array == nullptr || !array->IsArray()) {
-    // No advice, although it speaks of just this case. Scripts know the message as it is.
+    // Without the advice, although it describes this very case: scripts rely on the exact message.
     return reportNotFound(refKey, refValue, false);
   }
   const bool isLarge = array->Size() > IndexBudget::kEntryCost;

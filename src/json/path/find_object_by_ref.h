@@ -30,10 +30,10 @@ const Value* findObjectByRef(const Value* array, std::string_view refKey, std::s
 /// DESCRIPTION. `find` does what `findObjectByRef` does, messages included. Between two calls, elements may be appended
 /// to an array; whatever else changes an element must be announced by `willChange`.
 ///
-/// IMPLEMENTATION. An index belongs to one array and one `refKey`. It contains the elements at the front of the array,
-/// under each text that selects them, except the elements that changed since they were added. Those, and the elements
-/// after the front, are compared one by one. An index belongs to an array of elements, not to a value: a document's
-/// pool never uses memory twice, so no other value ever has the same array.
+/// IMPLEMENTATION. An index belongs to one array of elements and one `refKey`. It contains the elements at the front of
+/// the array, under each text that selects them, except the elements that changed since they were added. Those, and the
+/// elements after the front, are compared one by one. It does not belong to the value: a document's pool never uses
+/// memory twice, so no other value ever has the same array.
 class ElementFinder {
  public:
   const Value* find(const Value* array, std::string_view refKey, std::string_view refValue);

@@ -15,8 +15,9 @@ struct SelectionStep {
   std::string_view refValue;
 };
 
-/// Splits `step` at its first "=", for those who select: the walks of additions and reads, the projection that mirrors
-/// them, and the completion. Returns nothing for a member step, which has no "=". The parts refer to `step`.
+/// Splits `step` at its first "=". Used wherever steps can select: in the walks of additions and reads, the projection
+/// that mirrors them, and the completion. Returns nothing for a member step, which has no "=". The parts refer to
+/// `step`.
 std::optional<SelectionStep> asSelectionStep(std::string_view step);
 
 /// The parsed form of a key-path argument. Reads and removals are key paths that can be executed; an addition has one

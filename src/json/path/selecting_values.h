@@ -24,7 +24,7 @@ inline std::string refValueOf(const Value& scalar) {
   return scalar.IsString() ? std::string(scalar.GetString()) : valueToText(scalar, false);
 }
 
-/// What a selection makes of an element that none of its values selects.
+/// How an element that does not match affects the selection.
 enum class Obstacle {
   none,
   badItems,  ///< An array with items that never select. The selection goes on.
@@ -59,7 +59,7 @@ Obstacle visitSelecting(const Value& element, std::string_view refKey, Visit vis
   return obstacle;
 }
 
-/// The number of values that such a visit looks at.
+/// The number of values that `visitSelecting` looks at.
 inline std::size_t countVisited(const Value& element, std::string_view refKey) {
   const Value* const member = findMember(element, refKey);
   return member != nullptr && member->IsArray() ? std::size_t{1} + member->Size() : 1;

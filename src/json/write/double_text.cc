@@ -15,7 +15,7 @@
 
 #include "json/contract.h"
 
-// Numbers have the same digits on every processor only where arithmetic rounds in the same way.
+// Numbers have the same digits on every processor only if arithmetic rounds in the same way.
 #ifdef __FAST_MATH__
 #error "-ffast-math rounds in another way, so numbers could be written differently"
 #endif
@@ -32,13 +32,13 @@ constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1
 
 /// A number above zero: its digits, without trailing zeros, times a power of ten.
 struct Decimal {
-  char* digits;
+  char* digits;  ///< In a buffer of the caller with room for `kLongestDouble` characters.
   int length;
   int exponent;
 };
 
-/// Finds `decimal` for a value in that range if some text of at most 15 digits reads back as it; otherwise returns
-/// false.
+/// Finds `decimal` for a value from 1e-7 to below 1e15 if a text of at most 15 digits, or one of 16 that begins with 1,
+/// reads back as it. Otherwise returns false.
 bool findFewDigits(double value, Decimal& decimal) {
   // 1233 / 4096 is log10(2): times the power, the value has 15 digits before the point, or 16 that begin with a 1.
   const int places = 14 - ((rapidjson::internal::Double(value).Exponent() * 1233) >> 12);
@@ -48,7 +48,7 @@ bool findFewDigits(double value, Decimal& decimal) {
   // this is the number that the digits make.
   // NOLINTNEXTLINE(bugprone-incorrect-roundings)
   const auto whole = static_cast<std::uint64_t>(value * power + 0.5);
-  // Both operands are exact, so the quotient is what a reader makes of the digits.
+  // Both operands are exact, so the quotient is the value that a reader computes from the digits.
   if (static_cast<double>(whole) / power != value) {
     return false;
   }
@@ -61,7 +61,7 @@ bool findFewDigits(double value, Decimal& decimal) {
   return true;
 }
 
-/// Replaces `decimal` by the digits of the standard library if those are fewer. Its digits are always the fewest.
+/// Replaces `decimal` by the digits of the standard library if those are fewer. The library always finds the fewest.
 void shorten(double value, Decimal& decimal) {
   char text[32] = {};
   std::to_chars(std::begin(text), std::end(text), value, std::chars_format::scientific);
@@ -82,7 +82,8 @@ void findDigits(double value, Decimal& decimal) {
   if (mayHaveFewDigits && findFewDigits(value, decimal)) {
     return;
   }
-  // The fewest digits most of the time, but one too many now and then.
+  // Grisu2 usually finds the fewest digits, but sometimes one more. If it finds 16 where 15 are not enough, these are
+  // the fewest.
   rapidjson::internal::Grisu2(value, decimal.digits, &decimal.length, &decimal.exponent);
   if (!mayHaveFewDigits || decimal.length > 16) {
     shorten(value, decimal);

@@ -25,8 +25,9 @@ namespace kovalt {
 /// character by character. Write errors are not noticed. Nothing is written unless a piece is full or `Flush` is
 /// called.
 ///
-/// IMPLEMENTATION. Each operation makes room for `kRoom` characters before it adds any, and adds no more than that
-/// before it makes room again. What is beyond a full piece moves to the front of the next one.
+/// IMPLEMENTATION. Each operation makes room for `kRoom` characters before it adds any. It then adds at most that many,
+/// except for long strings, which fill the rest of the buffer. What is beyond a full piece moves to the front of the
+/// next one.
 class OutputStream {
  public:
   using Ch = char;
@@ -44,7 +45,7 @@ class OutputStream {
     *end_++ = character;
   }
 
-  /// Adds `count` characters, at most `kShort`, and returns where the caller must put them.
+  /// Adds `count` characters, at most `kShort`, and returns where the caller must put them before the next operation.
   char* Push(std::size_t count) {
     require(count <= kShort);
     makeRoom();
@@ -71,8 +72,8 @@ class OutputStream {
     putSpaces(spaces);
   }
 
-  /// Adds `count` spaces. Sets `kShort` characters at a time, because a fixed number takes no call; what is too much is
-  /// overwritten later.
+  /// Adds `count` spaces. Sets `kShort` characters at a time, because a fixed size compiles to plain stores. The excess
+  /// is overwritten later.
   void putSpaces(std::size_t count) {
     while (true) {
       makeRoom();
@@ -98,7 +99,7 @@ class OutputStream {
     }
   }
 
-  /// Writes what is collected.
+  /// Writes the collected text. Without it, the last piece is lost.
   void Flush() {
     makeRoom();
     write(static_cast<std::size_t>(end_ - buffer_));

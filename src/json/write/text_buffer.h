@@ -19,7 +19,7 @@ using TextBuffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, AbortingAll
 
 namespace rapidjson {
 
-/// Replaces how the compact and the pretty writer write a floating-point number to a `TextBuffer`.
+/// Replaces the function of both writers that writes a floating-point number to a `TextBuffer`.
 template <>
 inline bool Writer<kovalt::TextBuffer, UTF8<>, UTF8<>, kovalt::AbortingAllocator>::WriteDouble(double number) {
   char* const text = os_->Push(kovalt::kLongestDouble);

@@ -1,7 +1,7 @@
 #pragma once
 
-// Values as JSON text: in a string, on standard output and in a file. Numbers and strings have one form everywhere; see
-// double_text.h and output_stream.h. No depth of nesting is too deep.
+// Values as JSON text: in a string, on standard output and in a file. Numbers and strings have one form everywhere, and
+// no depth of nesting is too deep.
 
 #include <string>
 
