@@ -1,4 +1,4 @@
-// Which texts are accepted as JSON and which are refused, as docs/json-grammar.md lists them.
+// Which texts are accepted as JSON and which are rejected, as docs/json-grammar.md lists them.
 
 #include <gtest/gtest.h>
 
@@ -39,7 +39,7 @@ std::string quotedPart(const std::string& column) {
   return start == 0 ? "" : column.substr(start, column.find('`', start) - start);
 }
 
-ToolCall refusal(const std::string& name, const std::string& input) {
+ToolCall rejection(const std::string& name, const std::string& input) {
   return reading(name, input, "").printsLine("{}").reports(cannotParse("f.json"));
 }
 
@@ -63,8 +63,8 @@ std::vector<ToolCall> pageRows() {
       const std::size_t second = line.find(" | ");
       const std::string input = bytesOf(quotedPart(line.substr(0, second)));
       const std::string decision = line.substr(second + 3);
-      rows.push_back(decision.rfind("refused", 0) == 0 ? refusal(name, input)
-                                                       : acceptance(name, input, bytesOf(quotedPart(decision))));
+      rows.push_back(decision.rfind("rejected", 0) == 0 ? rejection(name, input)
+                                                        : acceptance(name, input, bytesOf(quotedPart(decision))));
     }
   }
   return rows;
@@ -72,7 +72,7 @@ std::vector<ToolCall> pageRows() {
 
 const Table kJsonGrammar("JsonGrammar", pageRows);
 
-TEST(JsonGrammarLoops, RefusesDocumentsCutShortAtEveryByte) {
+TEST(JsonGrammarLoops, RejectsDocumentsTruncatedAtEveryByte) {
   for (const std::string document : {
            R"({"a":[1,-2.5e+3,true,false,null,"x\"\u00e9\ud834\udd1e"],"b":{"":{}}})",
            R"([ [ ], { }, "\\", 0.0, 18446744073709551615 ])",
@@ -82,7 +82,7 @@ TEST(JsonGrammarLoops, RefusesDocumentsCutShortAtEveryByte) {
        }) {
     for (std::size_t length = 0; length < document.size(); ++length) {
       SCOPED_TRACE(document.substr(0, length));
-      refusal("cut", document.substr(0, length)).check();
+      rejection("truncated", document.substr(0, length)).check();
     }
   }
 }
@@ -90,14 +90,14 @@ TEST(JsonGrammarLoops, RefusesDocumentsCutShortAtEveryByte) {
 TEST(JsonGrammarLoops, AcceptsDeepNesting) {
   const std::string arrays = std::string(1000, '[') + std::string(1000, ']');
   acceptance("arrays", arrays, arrays).check();
-  refusal("one_bracket_short", arrays.substr(1)).check();
+  rejection("one_bracket_short", arrays.substr(1)).check();
   std::string objects;
   for (int depth = 0; depth < 1000; ++depth) {
     objects += R"({"a":)";
   }
   objects += "1" + std::string(1000, '}');
   acceptance("objects", objects, objects).check();
-  refusal("one_brace_short", objects.substr(0, objects.size() - 1)).check();
+  rejection("one_brace_short", objects.substr(0, objects.size() - 1)).check();
 }
 
 /// A control character as an escape with hexadecimal digits.
@@ -118,12 +118,12 @@ std::string around(const std::string& middle) { return std::string(40, 'x') + mi
 std::string quoted(const std::string& text) { return '"' + text + '"'; }
 
 // Some builds of RapidJSON scan long strings with vector instructions, which miss some control characters.
-TEST(JsonGrammarLoops, RefusesControlCharactersInLongStringsAndWritesTheirEscapes) {
+TEST(JsonGrammarLoops, RejectsControlCharactersInLongStringsAndWritesTheirEscapes) {
   for (int code = 1; code < ' '; ++code) {
     SCOPED_TRACE(code);
     const std::string raw = around(std::string(1, static_cast<char>(code)));
     const std::string escaped = around(escape(code));
-    refusal("raw", quoted(raw)).check();
+    rejection("raw", quoted(raw)).check();
     acceptance("escaped", quoted(around(hexEscape(code))), escaped).check();
     ToolCall("displayed").call({"-as", "", raw}).printsLine(quoted(escaped)).check();
     ToolCall("saved").call({"-f", "f.json", "-as", "", raw}).leaves("f.json", quoted(escaped)).check();
@@ -138,9 +138,9 @@ TEST(JsonGrammarLoops, DecidesTheSameWhereverTheInputBufferEnds) {
       SCOPED_TRACE(white.size());
       acceptance("value", white + R"(["\u00e9",-1.5e3,null])", "[\"\xC3\xA9\",-1500.0,null]").check();
       acceptance("end", "{}" + white, "{}").check();
-      refusal("nul", "{}" + white + std::string(1, '\0')).check();
-      refusal("trailing", "{}" + white + "x").check();
-      refusal("nothing", white).check();
+      rejection("nul", "{}" + white + std::string(1, '\0')).check();
+      rejection("trailing", "{}" + white + "x").check();
+      rejection("nothing", white).check();
     }
   }
 }
