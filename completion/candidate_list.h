@@ -9,9 +9,9 @@
 
 namespace kovalt {
 
-/// Collects distinct words in the order of their arrival. A shell is slow with thousands of candidates and nobody reads
-/// them, so a longer list is cut. The least and the greatest of the dropped words are kept, so that the cut list has
-/// the same common prefix, which the shell inserts.
+/// Collects distinct words in the order in which they were added. A shell is slow with thousands of candidates and
+/// nobody reads them, so a longer list is cut. The least and the greatest of the dropped words are kept, so that the
+/// cut list has the same common prefix, which the shell inserts.
 class CandidateList {
  public:
   /// The longest list that is not cut.

@@ -10,7 +10,7 @@ namespace kovalt {
 
 /// The candidates for the word at the cursor.
 struct Completion {
-  bool takesFile = false;          ///< The word is a file name, which the shell completes itself.
+  bool isFile = false;             ///< The word is a file name, which the shell completes itself.
   bool isCut = false;              ///< There are more candidates than `lines`.
   std::vector<std::string> lines;  ///< The candidates. An option is followed by a tab and its description.
 };

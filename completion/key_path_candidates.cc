@@ -23,7 +23,9 @@ enum class Selections { whole, keys };
 /// Collects the steps that continue from values of a document and begin with the typed text.
 class StepCollector {
  public:
-  StepCollector(std::string_view way, std::string_view typed, KeyPathUse use) : way_(way), typed_(typed), use_(use) {}
+  /// `prefix` is the key path before the typed text, and begins every candidate.
+  StepCollector(std::string_view prefix, std::string_view typed, KeyPathUse use)
+      : prefix_(prefix), typed_(typed), use_(use) {}
 
   void addFrom(const Value& value, Selections selections) {
     if (value.IsObject()) {
@@ -33,8 +35,8 @@ class StepCollector {
     }
   }
 
-  /// Whether there are so many candidates that the user should choose the key of the selection first.
-  [[nodiscard]] bool isBetterWithKeys() const {
+  /// Whether there are so many selections that the user should choose their key first.
+  [[nodiscard]] bool hasTooManySelections() const {
     return candidates_.isCut() && typed_.find('=') == std::string_view::npos;
   }
 
@@ -47,11 +49,11 @@ class StepCollector {
       if (!startsWith(name, typed_)) {
         continue;
       }
-      const bool goesOn = canGoOn(member->value, use_);
-      if (!goesOn || (use_.namesArray && member->value.IsArray())) {
+      const bool hasNext = hasNextStep(member->value, use_);
+      if (!hasNext || (use_.namesArray && member->value.IsArray())) {
         add(name, "");
       }
-      if (goesOn) {
+      if (hasNext) {
         add(name, ".");
       }
     }
@@ -66,7 +68,7 @@ class StepCollector {
           add(step, ".");
         }
       }
-      if (isBetterWithKeys()) {
+      if (hasTooManySelections()) {
         return;
       }
     }
@@ -83,9 +85,11 @@ class StepCollector {
     }
   }
 
-  void add(std::string_view step, std::string_view end) { candidates_.add(std::string(way_).append(step).append(end)); }
+  void add(std::string_view step, std::string_view end) {
+    candidates_.add(std::string(prefix_).append(step).append(end));
+  }
 
-  std::string_view way_;
+  std::string_view prefix_;
   std::string_view typed_;
   KeyPathUse use_;
   CandidateList candidates_;
@@ -108,22 +112,22 @@ Values follow(const Values& values, std::string_view step, KeyPathUse use) {
 }  // namespace
 
 CandidateList keyPathCandidates(const Values& roots, std::string_view word, KeyPathUse use) {
-  const std::string_view way = word.substr(0, word.rfind(KeyPath::kStepSeparator) + 1);
-  const std::string_view typed = word.substr(way.size());
+  const std::string_view prefix = word.substr(0, word.rfind(KeyPath::kStepSeparator) + 1);
+  const std::string_view typed = word.substr(prefix.size());
   const KeyPath path(word);
   Values values = roots;
   for (std::size_t i = 0; i + 1 < path.steps().size(); ++i) {
     values = follow(values, path.steps()[i], use);
   }
 
-  StepCollector steps(way, typed, use);
+  StepCollector steps(prefix, typed, use);
   for (const Value* value : values) {
     steps.addFrom(*value, Selections::whole);
   }
-  if (!steps.isBetterWithKeys()) {
+  if (!steps.hasTooManySelections()) {
     return std::move(steps).candidates();
   }
-  StepCollector keySteps(way, typed, use);
+  StepCollector keySteps(prefix, typed, use);
   for (const Value* value : values) {
     keySteps.addFrom(*value, Selections::keys);
   }

@@ -10,8 +10,8 @@ namespace {
 
 using Place = Projection::Place;
 
-/// Adds what `canGoOn` reads of a value at `place`.
-void addGoingOn(Projection& projection, Place place, KeyPathUse use) {
+/// Adds the parts of the values at `place` that `hasNextStep` reads.
+void addNextSteps(Projection& projection, Place place, KeyPathUse use) {
   projection.addMembers(place, "");
   if (use.selects) {
     projection.addSelecting(projection.addMembers(projection.addElements(place), ""));
@@ -31,10 +31,10 @@ void addCandidates(Projection& projection, Place from, std::string_view word, Ke
     place = use.selects ? projection.addStep(step, place) : projection.addMember(place, step);
   }
 
-  addGoingOn(projection, projection.addMembers(place, typed), use);
+  addNextSteps(projection, projection.addMembers(place, typed), use);
   // The selection added its key by name, so that member is not among those above.
   if (selection && startsWith(selection->refKey, typed)) {
-    addGoingOn(projection, projection.addMember(place, selection->refKey), use);
+    addNextSteps(projection, projection.addMember(place, selection->refKey), use);
   }
   if (use.selects) {
     const Place elements = projection.addElements(place);

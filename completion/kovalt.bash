@@ -1,17 +1,17 @@
 # bash completion for Kovalt                               -*- shell-script -*-
 # shellcheck shell=bash
 
-# The helper that knows the candidates, found from the place of this script.
+# The helper that prints the candidates, by a path relative to this script.
 _kovalt_helper=${BASH_SOURCE[0]%/*}/@KOVALT_COMPLETE@
 [[ $_kovalt_helper == /* ]] || _kovalt_helper=$PWD/$_kovalt_helper
 
-# Reads $1, the next part of the command line. Appends to `line` what bash makes of the words that end there, except those
-# that a redirection names. Sets for the last word:
-# - `begun` if there is any of it, `redirected` if it names the file of a redirection;
-# - `value` to what bash makes of it, `quote` to the quote that it leaves open, `inside` to what is typed after that quote,
-#   and `escape` to a backslash at its end;
-# - `unclear` if bash could expand it together with what is inserted after it, or if it is or follows an expansion in which
-#   quotes have other rules (`lost`).
+# Reads $1, the next part of the command line. Appends to `line` the value of each complete word after quote removal and
+# expansion, except those that a redirection names. Sets for the last word:
+# - `begun` if it is not empty as typed, `redirected` if it names the file of a redirection;
+# - `value` to its value, `quote` to the quote that it leaves open, `inside` to the text typed after that quote, and
+#   `escape` to a backslash at its end;
+# - `unclear` if bash could expand it together with the text that is inserted after it, or if it is or follows an expansion
+#   in which quotes have other rules (`lost`).
 # Runs nothing: it expands only a home folder and plain variables.
 _kovalt_read() {
   local rest=$1 char
@@ -72,13 +72,14 @@ _kovalt_quote() {
   done
 }
 
-# Sets `candidates` to what can stand for the word at the cursor of `line`, and `kind` to what it is.
+# Sets `candidates` to the candidates for the word at the cursor of `line`, and `kind` to their kind.
 #
-# The names in a file come from somebody else, and none may become anything that bash runs or expands. _kovalt_quote takes
-# care of that, with exceptions. Names are left out
-# - with a history character, between double quotes, where nothing escapes it, and everywhere if it is not "!";
-# - with letters beyond ASCII if the locale is not UTF-8: bash may see special characters in their bytes, or miss some;
-# - behind an unclear word: all names.
+# The names in a file are untrusted: bash must not run or expand one. _kovalt_quote escapes them, with these exceptions:
+# - Names with a history character are left out between double quotes, where nothing escapes it, and everywhere if it is
+#   not "!".
+# - Names with letters beyond ASCII are left out if the locale is not UTF-8: bash may see special characters in their
+#   bytes, or miss some.
+# - After an unclear word, all names are left out.
 _kovalt_ask() {
   local answer candidate letter
   mapfile -t answer < <("$_kovalt_helper" "$cword" "${line[@]}" 2>/dev/null)
@@ -106,7 +107,7 @@ _kovalt_files() {
   local path=$value
   compopt -o bashdefault -o default
   if [[ ! $quote && $path == *[=:]* ]]; then
-    # The line editor itself would look only for what follows the "=" or ":".
+    # The line editor itself would look only for the text after the "=" or ":".
     begun='' value=''
     _kovalt_read "$1"
     mapfile -t COMPREPLY < <(compgen -f -- "$path")
@@ -139,7 +140,7 @@ _kovalt() {
   if ((${#candidates[@]} == 1)) && [[ ${candidates[0]} == *[.=] ]]; then
     compopt -o nospace
     if [[ $quote ]]; then
-      # A quote is closed after the only candidate, but not where candidates for the next step stand beside it.
+      # A quote is closed after the only candidate, but not if candidates for the next step follow.
       local only=${candidates[0]}
       line[cword]=$only
       _kovalt_ask
@@ -147,7 +148,7 @@ _kovalt() {
     fi
   fi
 
-  # The line editor replaces no more than $2, which begins after the last quote, "=" or ":". It stays as it is typed. Behind
+  # The line editor replaces no more than $2, which begins after the last quote, "=" or ":". It stays as it is typed. After
   # a command such as sudo, $2 is too long if a quote is open.
   [[ $quote ]] && typed=$inside || typed=$2
   typed=${typed%"$escape"}
@@ -161,7 +162,7 @@ _kovalt() {
     # that ends in one.
     COMPREPLY=("${COMPREPLY[@]/%/"$quote"}")
   elif ((${#COMPREPLY[@]})); then
-    # Several candidates: the line editor inserts what all of them begin with.
+    # Several candidates: the line editor inserts their common prefix.
     start=${COMPREPLY[0]}
     for word in "${COMPREPLY[@]}"; do
       while [[ $word != "$start"* ]]; do start=${start%?}; done

@@ -9,7 +9,7 @@ function __kovalt_expand --argument-names raw word
     set -l parts (string match --regex '^\$(\w+)(.*)$' -- $word)
     set -l home (string match --regex '^~(?:[a-zA-Z_][a-zA-Z_0-9.-]*)?(?=/|$)' -- $raw)
     if set --query home[1]
-        # Evaluates nothing but a user name. If there is no such user, the word stays.
+        # Evaluates nothing but a user name. If there is no such user, the word is unchanged.
         set -l folder
         eval "set folder $home"
         string replace -- $home "$folder" $word
@@ -22,13 +22,13 @@ function __kovalt_expand --argument-names raw word
 end
 
 function __kovalt_complete
-    # fish does not show a completion the line after the cursor.
+    # fish does not pass a completion the line after the cursor.
     set -l before (commandline --current-process --tokenize --cut-at-cursor)
     set -l token (commandline --current-token --cut-at-cursor)
     # The word at the cursor may leave a quote open.
     set -l typed (string unescape -- $token; or string unescape -- $token\"; or string unescape -- $token\')
 
-    # The words as typed. They only serve to distinguish a quoted "~" from a home folder.
+    # The words as typed, only to distinguish a quoted "~" from a home folder.
     set -l raws (string match --all --regex -- \
         '(?:[^\s\'"\\\\]|\\\\(?:.|$)|\'(?:[^\'\\\\]|\\\\.)*(?:\'|$)|"(?:[^"\\\\]|\\\\.)*(?:"|$))+' \
         (commandline --current-process --cut-at-cursor))
@@ -42,8 +42,8 @@ function __kovalt_complete
     set --append line (__kovalt_expand "$token" "$typed" | string collect --allow-empty)
 
     set -l candidates ($__kovalt_helper (count $before) $line 2>/dev/null)
-    # A file from somebody else may contain any name, and fish must not run or expand one. fish escapes what it inserts,
-    # except a "~" at the start of a word, so there names that begin with "~" are left out.
+    # The names in a file are untrusted: fish must not run or expand one. fish escapes what it inserts, except
+    # a "~" at the start of a word, so there names that begin with "~" are left out.
     if test -z "$token"
         set candidates (string match --invert -- '~*' $candidates)
     end

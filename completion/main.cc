@@ -21,7 +21,7 @@
 namespace {
 
 void print(const kovalt::Completion& completion) {
-  std::string text = completion.takesFile ? "files\n" : completion.isCut ? "words cut\n" : "words\n";
+  std::string text = completion.isFile ? "files\n" : completion.isCut ? "words cut\n" : "words\n";
   for (const std::string& line : completion.lines) {
     text.append(line) += '\n';
   }

@@ -104,7 +104,7 @@ std::optional<std::vector<Selection>> SelectionReader::nextObject() {
   return selections;
 }
 
-bool canGoOn(const Value& value, KeyPathUse use) {
+bool hasNextStep(const Value& value, KeyPathUse use) {
   return value.IsObject() ? hasMemberStep(value, use) : use.selects && value.IsArray() && hasSelection(value);
 }
 

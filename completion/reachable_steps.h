@@ -46,7 +46,7 @@ class SelectionReader {
   std::set<std::string_view> stoppedKeys_;
 };
 
-/// Whether any step can follow after `value`.
-bool canGoOn(const Value& value, KeyPathUse use);
+/// Whether a key path can continue from `value`.
+bool hasNextStep(const Value& value, KeyPathUse use);
 
 }  // namespace kovalt

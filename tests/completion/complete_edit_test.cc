@@ -13,7 +13,7 @@ namespace {
 /// Returns the candidates for the last word of a line, or "files" for file names.
 std::vector<std::string> candidates(const std::vector<std::string>& line) {
   const Completion completion = completeEdit(line, line.size() - 1);
-  if (completion.takesFile) {
+  if (completion.isFile) {
     return {"files"};
   }
   std::vector<std::string> words;
@@ -64,7 +64,7 @@ TEST(CompleteEdit, CompletesTheWordAtTheCursor) {
   file.write(R"({"network":{"port":1}})");
   EXPECT_EQ(completeEdit({"kovalt-edit", file.path(), "-r", "n", "-rm", "x"}, 3).lines, Words{"network."});
   EXPECT_EQ(completeEdit({"kovalt-edit", "--create", file.path(), "-r", "n", "-rm", "x"}, 4).lines, Words{"network."});
-  EXPECT_TRUE(completeEdit({"kovalt-edit", "c", "-rm", "x"}, 1).takesFile);
+  EXPECT_TRUE(completeEdit({"kovalt-edit", "c", "-rm", "x"}, 1).isFile);
 }
 
 }  // namespace

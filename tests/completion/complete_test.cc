@@ -89,11 +89,11 @@ TEST_P(CompleteLine, OffersTheCandidatesAtTheCursor) {
   const Completion completion = completeLine(GetParam().line);
   const Words& expected = GetParam().expected;
   if (expected == Words{kFiles}) {
-    EXPECT_TRUE(completion.takesFile);
+    EXPECT_TRUE(completion.isFile);
     EXPECT_TRUE(completion.lines.empty());
     return;
   }
-  EXPECT_FALSE(completion.takesFile);
+  EXPECT_FALSE(completion.isFile);
   if (expected == Words{kOptions} || expected == Words{kOptionsWithoutFile}) {
     EXPECT_EQ(wordsOf(completion), allOptions(expected == Words{kOptions}));
   } else {
