@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Completes names that try to run a command, in a real shell (bash, zsh or fish) on a pseudo-terminal.
 
-Fails if anything but Kovalt runs, if Kovalt reads another key than the completed one, and if a name is left out where
+Fails if anything but Kovalt runs, if Kovalt reads another key than the completed one, or if a name is left out although
 the shell can quote it.
 """
 
@@ -14,8 +14,8 @@ from pathlib import Path
 
 from interactive_shell import InteractiveShell
 
-# Whatever must not run makes the file `ran`: the names themselves, and the previous command, which those with a history
-# character try to run again: "@" is one only where it is set.
+# Each command that must not run creates the file `ran`. Some names contain one; names with a history character would
+# repeat the previous command. ("@" is a history character only where it is set.)
 PREVIOUS = 'true "$(touch ran)"'
 HISTORY_CHARACTERS = "!^@"
 EXPANSIONS = [
@@ -36,8 +36,8 @@ HISTORY = ["!!", "a!!b", "!true", "!?touch?", "!-1", "!", "\\!!", "';!!;'", '";!
 OTHERS = ["%self", "-r", "--file", "größe", "\u202etouch ran"]
 NAMES = EXPANSIONS + SEPARATORS + QUOTES_AND_BACKSLASHES + HISTORY + OTHERS
 
-# What is typed before TAB, and a name that begins with it, or with what bash makes of it: `unset` is an unset variable, and
-# `ab` a file. The rest of the name could complete an expansion.
+# The text typed before TAB, and a name that begins with it, or with its expansion in bash: `unset` is an unset variable,
+# and `ab` a file. The rest of the name could complete an expansion.
 BEGUN = [
     ('"$', "$(touch ran)"), ('"${x:-$', "${x:-$(touch ran)}"), ('"\\', "\\$(touch ran)"), ("\\\\\\", "\\$(touch ran)"),
     ('"a\\\\\\', "a\\$(touch ran)"), ("$", "$HOME"), ("a$", "a$HOME"), ("$HO", "ME"), ("$unset-", "-x"), ("!", "!!"),
@@ -47,12 +47,12 @@ BEGUN = [
     ("'a'\\''", "a'$(touch ran)"), ('a"b', "ab;touch ran"), ("$'\\'' ' -r 'x", "x$(touch ran)"),
 ]
 
-# What may become of a line.
-READ, KEPT = "reads the value of the name", "stays as it is typed"
+# The results of completing and executing a line.
+READ, KEPT = "reads the value of the name", "is unchanged"
 
 
 def is_offered(shell, quote, name, is_first=False):
-    """Whether `shell` can quote `name` behind the open `quote`, or, if it `is_first`, at the start of the word."""
+    """Whether `shell` can quote `name` after the open `quote`. `is_first` means at the start of the word."""
     if shell == "fish":
         return not is_first or quote != "" or name[0] != "~"
     if shell == "bash" and is_first and quote == "'" == name[0]:
@@ -74,7 +74,7 @@ def write_json(path, value):
 
 
 def write_files(folder):
-    """Each name as a member and as a value, alone in a file, and further down in `all.json`."""
+    """Writes each name as a member and as a value, alone in a file, and deeper in `all.json`."""
     (folder / "ab").touch()
     members, pairs, values = {}, {}, {}
     for i, name in enumerate(NAMES):
@@ -111,19 +111,20 @@ class Check:
         self.shell = self.open()
 
     def complete(self, typed, keys, name, *outcomes):
-        """Executes what `keys` make of `typed`. Nothing else must run, and the line must have one of the `outcomes`."""
+        """Types `typed`, presses `keys` and executes the line. Nothing else must run, and the outcome must be one of
+        `outcomes`, if there are any."""
         if any(character in name for character in HISTORY_CHARACTERS):
             self.shell.press(PREVIOUS + "\r")
             (self.folder / "ran").unlink()
         line, _ = self.shell.press(typed + keys)
         printed = self.shell.enter(open_quote(self.name, line))
-        made = set(os.listdir(self.folder)) - self.files
-        for file in made:
+        created = set(os.listdir(self.folder)) - self.files
+        for file in created:
             (self.folder / file).unlink()
         outcome = KEPT if line == typed else READ if printed and "VALUE" in printed else None
-        if made or outcomes and outcome not in outcomes:
+        if created or outcomes and outcome not in outcomes:
             self.faults += 1
-            print(f"{typed!r} becomes {line!r}, prints {printed!r} and makes the files {made}", file=sys.stderr)
+            print(f"{typed!r} becomes {line!r}, prints {printed!r} and creates the files {created}", file=sys.stderr)
         if printed is None:
             self.shell.close()
             self.shell = self.open()
@@ -139,7 +140,7 @@ class Check:
                 value = READ if is_offered(self.name, quote, name) else KEPT
                 self.complete(f"Kovalt -f value{i}.json -r {quote}name=", "\t", name, value)
 
-    def complete_further_down(self, group, names, keys):
+    def complete_deeper(self, group, names, keys):
         """Completes names among the `members`, `pairs` of members or `values` in the file of all names."""
         end = "name=" if group == "values" else ""
         for quote in ("", '"', "'"):
@@ -149,9 +150,9 @@ class Check:
                 self.complete(typed, keys, name, READ if offered else KEPT)
 
     def complete_begun_names(self):
-        # The other shells complete or expand some of what is begun themselves.
+        # The other shells complete or expand some of these texts themselves.
         outcomes = (READ, KEPT) if self.name == "bash" else ()
-        # Behind another command, bash-completion calls the function, not bash.
+        # After another command, bash-completion calls the function, not bash.
         for command in ("Kovalt", "command Kovalt")[: 2 if self.name == "bash" else 1]:
             for i, (begun, name) in enumerate(BEGUN):
                 self.complete(f"{command} -f begun{i}.json -r {begun}", "\t", name, *outcomes)
@@ -162,7 +163,7 @@ class Check:
         self.complete(f"Kovalt -f value{i}.json -r name=~", "\t", NAMES[i], *outcomes)
 
     def complete_half_escapes(self):
-        """Completes where all candidates go on with an escaped character."""
+        """Completes where all candidates continue with an escaped character."""
         for quote in ("", '"', "'"):
             for keys in ("\t", "\t\t"):
                 self.complete(f"Kovalt -f all.json -r {quote}escapes.a", keys, "", READ, KEPT)
@@ -180,11 +181,11 @@ class Check:
 
 
 def check_shell(shell, prefix, folder):
-    """The number of faults with the settings that each shell has at first."""
+    """Returns the number of faults with the default settings of the shell."""
     check = Check(shell, prefix, folder)
     check.complete_alone(NAMES)
-    check.complete_further_down("members", NAMES, "\t\t")
-    check.complete_further_down("values", NAMES, "\t\t")
+    check.complete_deeper("members", NAMES, "\t\t")
+    check.complete_deeper("values", NAMES, "\t\t")
     check.complete_begun_names()
     check.complete_half_escapes()
     check.complete_in_backquotes()
@@ -192,9 +193,9 @@ def check_shell(shell, prefix, folder):
 
 
 def check_bash_settings(prefix, folder):
-    """The number of faults where TAB inserts each candidate in turn and another key all of them, and beyond UTF-8."""
+    """Returns the number of faults if TAB inserts each candidate in turn and another key all of them, and beyond UTF-8."""
     check = Check("bash", prefix, folder, ["bind 'TAB:menu-complete'"])
-    check.complete_further_down("pairs", QUOTES_AND_BACKSLASHES, "\t")
+    check.complete_deeper("pairs", QUOTES_AND_BACKSLASHES, "\t")
     for i, name in enumerate(NAMES):
         check.complete(f'Kovalt -f all.json -r "values.n{i}.name=', "\x1b*", name)
     faults = check.close()
@@ -205,9 +206,9 @@ def check_bash_settings(prefix, folder):
 
 
 def check_zsh_settings(prefix, folder):
-    """The number of faults where TAB also expands what is typed, and where nothing is escaped in double quotes."""
+    """Returns the number of faults if TAB also expands the typed text, and if nothing is escaped in double quotes."""
     check = Check("zsh", prefix, folder, ["zstyle ':completion:*' completer _expand _complete"])
-    check.complete_further_down("members", EXPANSIONS, "\t\t")
+    check.complete_deeper("members", EXPANSIONS, "\t\t")
     check.complete("Kovalt -f member0.json -r $'", "\t", NAMES[0], KEPT)
     faults = check.close()
     check = Check("zsh", prefix, folder, ["setopt CSH_JUNKIE_QUOTES"])

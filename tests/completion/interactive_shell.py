@@ -16,7 +16,7 @@ REPORT = "\x18r"
 # The seconds after which a shell counts as stuck.
 DEADLINE = 30
 
-# Each shell's start-up file below its home, its command, and the first lines of that file.
+# Each shell's startup file below its home folder, its command, and the first lines of that file.
 START_UP = {
     "bash": (".bashrc", ["bash"], f"""
 PS1='{READY}' PS2='{MORE}'
@@ -43,7 +43,7 @@ bind \\cxr 'printf "\\036%s\\037" (commandline | string collect) >/dev/tty'
 
 
 class InteractiveShell:
-    """A shell at its prompt in `folder`. Its environment is `environment`, and its start-up file ends with `lines`."""
+    """A shell at its prompt in `folder`. Its environment contains `environment`, and its startup file ends with `lines`."""
 
     def __init__(self, name, home, folder, environment, lines):
         start_up, command, settings = START_UP[name]
@@ -70,13 +70,13 @@ class InteractiveShell:
         deadline = time.monotonic() + DEADLINE
         while not (match := re.search(pattern.encode(), self.output, re.DOTALL)):
             if not select.select([self.terminal], [], [], max(0, deadline - time.monotonic()))[0]:
-                raise TimeoutError(f"{self.name} does not go on after {self.output!r}")
+                raise TimeoutError(f"{self.name} printed nothing more after {self.output!r}")
             self.output += os.read(self.terminal, 65536)
         before, self.output = self.output[: match.start()], self.output[match.end() :]
         return match, before.decode("utf-8", "replace")
 
     def press(self, keys):
-        """Presses `keys`. Returns the line that they leave and the output."""
+        """Presses `keys`. Returns the resulting line and the output."""
         os.write(self.terminal, (keys + REPORT).encode("utf-8"))
         match, printed = self.wait_for("\x1e([^\x1f]*)\x1f")
         return match[1].decode("utf-8").replace("\r\n", "\n"), printed
@@ -85,6 +85,6 @@ class InteractiveShell:
         """Adds `end` to the line and executes it. Returns its output, or None if the shell waits for more of the line."""
         left, printed = self.press(end + "\r")
         if left and self.name == "fish":
-            # The first one only closed the list of candidates.
+            # The first Enter only closed the list of candidates.
             left, printed = self.press("\r")
         return None if left or printed.rfind(MORE) > printed.rfind(READY) else printed

@@ -44,7 +44,7 @@ std::vector<CandidateRow> memberRows() {
       {"a_whole_scalar", json, "name", {"name"}},
       {"an_object_without_its_dot", json, "network", {"network."}},
       {"members_of_an_object", json, "network.", {"network.host", "network.port", "network.tls."}},
-      {"members_further_down", json, "network.tls.o", {"network.tls.on"}},
+      {"members_of_a_nested_object", json, "network.tls.o", {"network.tls.on"}},
       {"no_member_with_the_typed_start", json, "x", {}},
       {"other_case", json, "Netw", {}},
       {"nothing_in_a_scalar", json, "name.", {}},
@@ -122,7 +122,7 @@ std::vector<CandidateRow> removalRows() {
 
 class KeyPathCandidates : public testing::TestWithParam<CandidateRow> {};
 
-/// A fixture of their own, because removals do not use the walks that the candidates are checked with.
+/// A separate fixture, because removals do not use the walk that finds the candidates in AreFoundByTheWalk.
 class RemovalCandidates : public testing::TestWithParam<CandidateRow> {};
 
 void checkCandidates(const CandidateRow& row) {

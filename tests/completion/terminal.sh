@@ -1,11 +1,11 @@
 # shellcheck shell=bash
-# Sourced by the tests that complete command lines in real shells. Makes `folder`, which is removed at the end.
+# Sourced by the tests that complete command lines in real shells. Creates `folder`, and removes it at the exit.
 
 folder=$(mktemp -d)
-# Commands to the terminal; its server is one of our own, and of each shell, because it takes its time to go.
+# Runs a tmux command. Each shell gets its own server, because a server exits slowly.
 terminals=0
 terminal() { tmux -u -S "$folder/terminal$terminals" -f /dev/null "$@"; }
-# A shell that is told to go may still write its history while its home is being removed.
+# A killed shell may still write its history while its home folder is removed.
 clean_up() {
   terminal kill-server 2>/dev/null || true
   for _ in {1..50}; do
@@ -15,9 +15,9 @@ clean_up() {
 }
 trap clean_up EXIT
 
-# Opens a shell in the current folder: bash, bare-bash (without the package bash-completion), zsh or fish. It is set up as
-# its users have it, but with a plain prompt and no memory. Its start-up file holds the further arguments as lines: in zsh
-# before compinit. Its environment is its home, `folder`/home, and what `environment` holds.
+# Opens a shell in the current folder: bash, bare-bash (without the package bash-completion), zsh or fish. It has a
+# typical set-up, but a short prompt and no history. The further arguments are lines of its startup file; in zsh they come
+# before compinit. Its environment contains HOME=`folder`/home and the variables in `environment`.
 environment=()
 open_shell() {
   local command home=$folder/home
@@ -51,7 +51,7 @@ close_shell() {
 
 screen() { terminal capture-pane -p; }
 
-# Ends the test if the deadline is over.
+# Waits a moment for the text $1. Fails the test after the deadline.
 keep_waiting() {
   if ((SECONDS >= deadline)); then
     printf '%s: no "%s" on the screen:\n%s\n' "$shell" "$1" "$(screen)" >&2
@@ -60,7 +60,7 @@ keep_waiting() {
   sleep 0.02
 }
 
-# Waits until every text is on the screen; with "=" in front, as a whole line. A machine may be slow, so there is time.
+# Waits until every text is on the screen. A text after "=" must be a whole line. Waits up to 30 s, for slow machines.
 await() {
   local deadline=$((SECONDS + 30)) text
   for text in "$@"; do
@@ -71,14 +71,14 @@ await() {
   done
 }
 
-# Clears the line and the screen, and waits until nothing but the prompt is left.
+# Clears the line and the screen, and waits until the screen shows only the prompt.
 fresh() {
   local deadline=$((SECONDS + 30))
   terminal send-keys C-e C-u C-l
   until [[ $(screen) == '$' ]]; do keep_waiting 'prompt alone'; done
 }
 
-# What is typed, then a TAB, makes the line that is shown. The letter typed after it tells whether a blank follows.
+# Types $1 and TAB, and expects the line $2. An X typed afterwards shows whether a space was added.
 completes() {
   terminal send-keys -l -- "$1"
   terminal send-keys Tab
@@ -87,7 +87,7 @@ completes() {
   fresh
 }
 
-# What is typed, then a TAB, lists all the candidates.
+# Types $1 and TAB, and expects these candidates.
 lists() {
   terminal send-keys -l -- "$1"
   terminal send-keys Tab
@@ -96,7 +96,7 @@ lists() {
   fresh
 }
 
-# What is typed, then a TAB, makes a call that prints the line that is shown.
+# Types $1, TAB and Enter, and expects the output $2.
 prints() {
   terminal send-keys -l -- "$1"
   terminal send-keys Tab Enter
