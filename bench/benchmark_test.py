@@ -49,7 +49,7 @@ class Data(unittest.TestCase):
 
     def test_each_kind_is_what_its_name_says(self):
         self.assertNotIn(b"\n", self.written("records"))
-        self.assertIn(b'\n      "id": 1,\n', self.written("laid_out"))
+        self.assertIn(b'\n      "id": 1,\n', self.written("indented"))
         self.assertIn(b"\n" + 60 * b" " + b'"', self.written("catalogue"))
         texts = self.written("texts")
         self.assertGreater(sum(byte > 127 for byte in texts), len(texts) / 3)

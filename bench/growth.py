@@ -1,4 +1,4 @@
-"""Merges, array reads and concatenations of growing input, and compared with jq."""
+"""Merges, array reads and concatenations of growing input; compares with jq."""
 
 from make_data import make_growth
 from measuring import Call, as_json

@@ -14,7 +14,7 @@ COMPLETE = "Completing the key path"
 OTHER = "Other reads"
 
 SIZES = (5, 50, 200)
-MOST_READ_TIME = {"records": 0.30, "laid_out": 0.55, "catalogue": 0.55, "texts": 0.45, "coordinates": 0.70}
+MOST_READ_TIME = {"records": 0.30, "indented": 0.55, "catalogue": 0.55, "texts": 0.45, "coordinates": 0.70}
 MOST_READ_MEMORY = 5 * MEGABYTE
 
 

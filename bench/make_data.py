@@ -14,7 +14,7 @@ MEGABYTE = 1_000_000
 DISTINCT = 4 * MEGABYTE
 KINDS = {
     "records": "compact records",
-    "laid_out": "indented records",
+    "indented": "indented records",
     "catalogue": "a deep indented catalogue",
     "texts": "long texts",
     "coordinates": "coordinates",
@@ -74,15 +74,15 @@ def compact(value):
     return json.dumps(value, ensure_ascii=False, separators=(",", ":"))
 
 
-def laid_out(value, indent):
+def indented(value, indent):
     """Returns the indented text of a value in the array `items`."""
     return json.dumps(value, ensure_ascii=False, indent=indent).replace("\n", "\n" + 2 * indent * " ")
 
 
 ELEMENTS = {
     "records": lambda number, rng: compact(record(number, rng)),
-    "laid_out": lambda number, rng: laid_out(record(number, rng), 2),
-    "catalogue": lambda number, rng: laid_out(category(number, rng), 4),
+    "indented": lambda number, rng: indented(record(number, rng), 2),
+    "catalogue": lambda number, rng: indented(category(number, rng), 4),
     "texts": message,
     "coordinates": lambda number, rng: compact(feature(number, rng)),
 }
@@ -91,7 +91,7 @@ ELEMENTS = {
 def write_kind(path, kind, size):
     """Writes a file of about `size` bytes."""
     rng = random.Random(f"{SEED} {kind}")
-    indent = {"laid_out": 2, "catalogue": 4}.get(kind, 0)
+    indent = {"indented": 2, "catalogue": 4}.get(kind, 0)
     outer, inner = ("\n" + indent * " ", "\n" + 2 * indent * " ") if indent else ("", "")
     colon = ": " if indent else ":"
     distinct = []
@@ -108,7 +108,7 @@ def write_kind(path, kind, size):
             if file.tell() + len(element) > size:
                 break
             file.write(element)
-        last = compact({"id": len(distinct), "name": LAST}) if indent == 0 else laid_out(
+        last = compact({"id": len(distinct), "name": LAST}) if indent == 0 else indented(
             {"id": len(distinct), "name": LAST}, indent)
         file.write(f'{last}{outer}],{outer}"meta"{colon}{{{inner}"version"{colon}1{outer}}}'.encode())
         file.write(b"\n}" if indent else b"}")

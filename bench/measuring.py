@@ -109,11 +109,11 @@ class Measuring:
         if self.quick:
             rounds, runs = min(rounds, 2), min(runs, 3)
         for number in range(rounds):
-            going = [position for position, (call, taken) in enumerate(zip(calls, samples))
-                     if number < call.rounds and sum(taken.seconds) * runs < patience]
-            if not going or (going == [0] and len(calls) > 1):
+            active = [position for position, (call, sample) in enumerate(zip(calls, samples))
+                      if number < call.rounds and sum(sample.seconds) * runs < patience]
+            if not active or (active == [0] and len(calls) > 1):
                 break
-            for position in sorted({0, *going}):
+            for position in sorted({0, *active}):
                 if calls[position].prepare:
                     self.shell(calls[position].prepare)
                 wall, processor, memory = self.run(calls[position], runs)

@@ -38,13 +38,13 @@ class Record:
         samples = self.measuring.in_turns(calls, rounds, runs, patience)
         tool = samples[0]
         rows = []
-        for call, taken in zip(calls, samples):
-            row = {"program": call.program, "seconds": rounded(statistics.median(taken.seconds)),
-                   "memory": max(taken.memory), "rounds": len(taken.seconds)}
-            if taken is not tool:
+        for call, sample in zip(calls, samples):
+            row = {"program": call.program, "seconds": rounded(statistics.median(sample.seconds)),
+                   "memory": max(sample.memory), "rounds": len(sample.seconds)}
+            if sample is not tool:
                 row["times"] = rounded(statistics.median(
-                    theirs / ours for theirs, ours in zip(taken.seconds, tool.seconds)))
-                row["memory_times"] = rounded(max(taken.memory) / max(tool.memory))
+                    theirs / ours for theirs, ours in zip(sample.seconds, tool.seconds)))
+                row["memory_times"] = rounded(max(sample.memory) / max(tool.memory))
                 row["reference"] = call.reference
                 row["ahead"] = row["times"] < 1 and not call.reference
                 row["ahead_in_memory"] = row["memory_times"] < 1 and not call.reference
@@ -78,7 +78,7 @@ class Record:
         else:
             counts = [measuring.instructions(call.arguments()) for call in calls[:2]]
             samples = measuring.in_turns(calls[1:], rounds, patience=patience)
-            medians = [statistics.median(taken.seconds) for taken in samples]
+            medians = [statistics.median(sample.seconds) for sample in samples]
             row |= {"instructions": counts, "seconds": [rounded(value) for value in [seconds[0], *medians]]}
             self.judge(group, work, f"exponent in instructions, {small:,} to {middle:,}",
                        exponent(*counts, middle / small), at_most=1.15)

@@ -115,8 +115,8 @@ void tryConcatenation(const std::string& path, const std::vector<std::string>& f
          "a concatenation prints the same as the slow version");
 }
 
-/// Appends `count` objects to an array. Their members "n" count from 0 to `modulus` again and again. A fuzzer cannot
-/// write arrays so large that the lookup of records changes its method.
+/// Appends `count` objects to an array, so that records repeat and there are more of them than in most inputs. Their
+/// members "n" count from 0 to `modulus` again and again.
 void lengthen(Value* value, std::size_t count, std::size_t modulus, Allocator& allocator) {
   if (value == nullptr || !value->IsArray()) {
     return;

@@ -1,4 +1,4 @@
-"""Calls of kovalt-edit, and what a call leaves of a file."""
+"""Calls of kovalt-edit, and the state of a file after a call."""
 
 import os
 import pathlib
@@ -24,10 +24,10 @@ class Commands:
         self.program = program
 
     def __enter__(self):
-        # A call cannot handle what it finds ignored, as under nohup.
+        # A call cannot handle signals that are ignored when it starts, as under nohup.
         for number in (signal.SIGHUP, signal.SIGINT):
             signal.signal(number, signal.SIG_DFL)
-        # Not in TMPDIR, which may be closed to other users.
+        # Not in TMPDIR, which other users may not be able to enter.
         self.path = pathlib.Path(tempfile.mkdtemp(prefix="kovalt-edit-test-", dir="/tmp"))
         self.path.chmod(0o755)
         self.tools = self.folder("bin")
@@ -41,7 +41,7 @@ class Commands:
         shutil.rmtree(self.path)
 
     def folder(self, name, content=None):
-        """Creates a folder that every user may enter, with f.json if there is a content."""
+        """Creates a folder that every user may enter, and f.json in it if `content` is given."""
         folder = self.path / name
         folder.mkdir()
         folder.chmod(0o755)
@@ -50,7 +50,7 @@ class Commands:
         return folder
 
     def start(self, folder, words, *, before=(), environment=None, **how):
-        """Starts a call in a process group of its own. `before` is a command that runs it."""
+        """Starts a call in its own process group. `before` is a command that runs it."""
         how = {"umask": 0o022, "stdin": subprocess.DEVNULL, "stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **how}
         environment = {**os.environ, "TMPDIR": str(self.temporary), **(environment or {})}
         return subprocess.Popen([*before, self.tools / "kovalt-edit", *words], cwd=folder, env=environment,
@@ -64,7 +64,7 @@ class Commands:
 
 
 def outcome_of(call, given=None):
-    """Waits for the end of a call. One that hangs is killed."""
+    """Waits until a call exits. Kills a call that hangs."""
     try:
         output, errors = call.communicate(given, timeout=TIME_LIMIT)
     except subprocess.TimeoutExpired:
@@ -74,7 +74,7 @@ def outcome_of(call, given=None):
 
 
 def identity(path):
-    """Everything about a file that a call must not touch. The content of a folder shows in its files."""
+    """Returns everything about a file that a call must not change, except the content of a folder."""
     status = path.lstat()
     identity = {"inode": status.st_ino, "mode": stat.filemode(status.st_mode), "owner": (status.st_uid, status.st_gid),
                 "links": status.st_nlink, "extended": {name: os.getxattr(path, name, follow_symlinks=False)

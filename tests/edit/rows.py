@@ -1,4 +1,4 @@
-"""The rows of check-calls: a call of kovalt-edit in a fresh folder, and all that it prints and leaves."""
+"""The rows of check-calls: a call of kovalt-edit in a fresh folder, and everything that it prints and leaves."""
 
 import json
 import os
@@ -15,10 +15,10 @@ ORDINARY = "ordinary user"
 
 @dataclass
 class Row:
-    """What a row does not name must be empty, zero or untouched, and no other file may be left."""
+    """Whatever a row does not state must be empty, zero or unchanged, and no other file may remain."""
 
     name: str
-    words: object = "-as k v"  # Those after the file; a text is cut at its spaces.
+    words: object = "-as k v"  # Those after the file; a text is split at its spaces.
     file: str = "f.json"  # None for no words at all.
     create: bool = False
     files: dict = field(default_factory=lambda: {"f.json": SMALL})
@@ -29,8 +29,8 @@ class Row:
     refused: str = None  # The message of a refusal, without the name of the command.
     status: int = None  # The exit status, if it is neither 0 nor the 1 of a refusal with a message.
     leaves: dict = field(default_factory=dict)  # The content of files that are replaced or new.
-    mode: str = "-rw-r--r--"  # That of a new file.
-    copies: int = 0  # How many copies it may leave.
+    mode: str = "-rw-r--r--"  # The mode of a new file.
+    copies: int = 0  # The greatest number of copies that it may leave.
     users: tuple = (ROOT, ORDINARY)
 
 
@@ -116,7 +116,7 @@ DOCUMENTS = [
 ]
 
 ROOT_CHANGES = "the type of its root would change"
-NO_OBJECT = "its root or that of a merged file is not an object"
+NOT_AN_OBJECT = "its root or that of a merged file is not an object"
 REPORTED = [
     refuses("a comment", "-as k v", "not valid JSON", b'{"a":1} // one'),
     refuses("an unknown option of several lines", ["--wrong\n\x1b."], "Error: invalid argument --wrong  ."),
@@ -126,7 +126,7 @@ REPORTED = [
             '--read error : Path "std::invalid_argument" does not exist'),
     refuses("a text for a number", "-an k x", "a value given as a number is not a number"),
     refuses("a number out of range", "-aan k 1 2147483648", "a number is out of range"),
-    refuses("a merged array", "-afat o g.json", NO_OBJECT, others={"g.json": LIST}),
+    refuses("a merged array", "-afat o g.json", NOT_AN_OBJECT, others={"g.json": LIST}),
     refuses("a merged file that is not JSON", "-afat o g.json", "Could not parse json file g.json",
             others={"g.json": b"{"}),
     refuses("JSON with NUL bytes", "-af /dev/stdin", "Could not parse json file /dev/stdin", given=b'{\0"k":\0"v"}\0'),
@@ -251,7 +251,7 @@ SURROUNDINGS = [
     Row("the copy of a public file is private", leaves={"f.json": EDITED, "mode": b"-rw-------\n"},
         **tool("sed", "stat -c %A .kovalt-edit.* >mode")),
     edits("the file changes before the lock", "-as k v", b"[", EDITED, **tool("flock", "echo '{\"a\":1}' >f.json")),
-    # A program that does not know the lock changes a file when the call gets to a certain tool.
+    # A program that ignores the lock changes a file when the call runs a certain tool.
     Row("the file changes meanwhile", refused=f"f.json: {CHANGED}", leaves={"f.json": b"{}\n"},
         **tool("chown", "echo '{}' >g.json && mv g.json f.json")),
     Row("the file appears meanwhile", create=True, files={}, refused=f"f.json: {CHANGED}", leaves={"f.json": b"{}\n"},
@@ -269,7 +269,7 @@ EARLY = ["readlink", "flock", "stat"]  # No signal is trapped yet.
 def interrupted(name, signal, target):
     early = name in EARLY or signal == "KILL"
     line = f'kill -s {signal} -- {target}{CALL}'
-    if name == "mktemp":  # Its file exists, but nobody knows the name.
+    if name == "mktemp":  # The file exists, but the script does not know its name yet.
         line = f'name=$(mktemp "$@")\n{line}\necho "$name"\nexit'
     return Row(f"{signal} to {target or 'the script'} at {name}", status=-NUMBERS[signal] if early else 143,
                leaves={"f.json": EDITED} if name == "mv" and not target else {}, copies=int(signal == "KILL"),
