@@ -113,7 +113,7 @@ std::vector<LineRow> optionRows() {
       {"no_second_file_by_its_form", {"-fd", "c.json", "--file|"}, {}},
       {"no_file_before_the_file", {"--fi|", "-f", "c.json"}, {}},
       {"file_that_is_a_key_path", {"--read", "--file", "--fi|"}, {"--file", "--fileDisplay"}},
-      {"after_an_unknown_word", {"what", "--fileD|"}, {"--fileDisplay"}},
+      {"after_an_unknown_word", {"unknown", "--fileD|"}, {"--fileDisplay"}},
       {"after_a_list", {"--addArray", "k", "a", "b", "|"}, {kOptions}},
       {"option_ends_a_list", {"--addArray", "k", "a", "--readArrayCommaN|"}, {"--readArrayCommaNoQuote"}},
       {"option_in_place_of_a_list", {"--addArray", "k", "|"}, {kOptions}},

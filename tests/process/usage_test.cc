@@ -183,7 +183,7 @@ std::vector<ToolCall> examples() {
       ToolCall("read_array").call("--readArray key --addArray key val1 val2").printsLine("val1 val2"),
       ToolCall("read_array_space").call("--readArraySpace key --addArray key val1 val2").printsLine(R"("val1" "val2")"),
       // The usage text omits the key path.
-      ToolCall("read_array_space_no_quote_is_refused")
+      ToolCall("read_array_space_no_quote_is_rejected")
           .call("--readArraySpaceNoQuote --addArray key val1 val2")
           .prints(invalidArgument("key"))
           .exits(1),

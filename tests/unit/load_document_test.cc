@@ -84,7 +84,7 @@ TEST_F(LoadDocument, LoadsStringsOfEachLength) {
   }
 }
 
-TEST_F(LoadDocument, AcceptsOrRefusesEachCharacterAtEachPlaceOfAString) {
+TEST_F(LoadDocument, AcceptsOrRejectsEachCharacterAtEachPlaceOfAString) {
   for (int code = 0; code < 256; ++code) {
     const auto character = static_cast<char>(code);
     for (std::size_t place = 0; place < 6; ++place) {

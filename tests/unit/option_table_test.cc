@@ -65,7 +65,7 @@ TEST(FindOption, FindsOnlyExactForms) {
   }
 }
 
-TEST(ParseArguments, RefusesEachOptionWithTooFewArguments) {
+TEST(ParseArguments, RejectsEachOptionWithTooFewArguments) {
   for (const Option& option : kOptionTable) {
     for (const std::string_view form : {option.longForm, option.shortForm}) {
       Texts arguments = {"Kovalt", std::string(form)};

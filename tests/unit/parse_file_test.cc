@@ -69,7 +69,7 @@ std::string load(std::string& text, const Projection& projection) {
   Document document;
   const bool parsed = parseFile(file, projection, document);
   std::fclose(file);
-  return parsed ? valueToText(document, false) : "(refused)";
+  return parsed ? valueToText(document, false) : "(rejected)";
 }
 
 /// Compares the stream and two loads of `text` with a parse through FileReadStream.
@@ -91,8 +91,8 @@ void compare(std::string text) {
   const bool isOneValue = expected.error == rapidjson::kParseErrorNone && expected.isAtEnd;
   Projection whole;
   whole.addWhole(Projection::kRoot);
-  EXPECT_EQ(load(text, whole), isOneValue ? expected.text : "(refused)") << shown;
-  EXPECT_EQ(load(text, {}) != "(refused)", isOneValue) << shown;
+  EXPECT_EQ(load(text, whole), isOneValue ? expected.text : "(rejected)") << shown;
+  EXPECT_EQ(load(text, {}) != "(rejected)", isOneValue) << shown;
 }
 
 /// Compares `text` with the end of the buffer at each of its bytes.

@@ -18,7 +18,7 @@ namespace {
 
 class ProjectionTest : public testing::Test {
  protected:
-  /// The text of the part of a file that is kept, or "(refused)".
+  /// Returns the text of the part of a file that a load keeps, or "(rejected)".
   std::string kept(const std::string& content, const Projection& projection) {
     file_.write(content);
     Document document;
@@ -26,7 +26,7 @@ class ProjectionTest : public testing::Test {
     const Printed printed = capture([&] { loaded = loadProjected(file_.path(), projection, document, false); });
     EXPECT_EQ(printed.output, "");
     EXPECT_EQ(printed.errors, loaded ? "" : "Could not parse json file " + file_.path() + "\n");
-    return loaded ? jsonOf(document) : "(refused)";
+    return loaded ? jsonOf(document) : "(rejected)";
   }
 
   /// The part that is kept for reads of these key paths.
@@ -122,16 +122,16 @@ TEST_F(ProjectionTest, KeepsThePartsOfSeveralReads) {
   EXPECT_EQ(kept(text, {"f.g=1.h", "f.g.x"}), R"({"f":[{"g":1,"h":2}]})");
 }
 
-TEST_F(ProjectionTest, RefusesErrorsInSkippedValues) {
+TEST_F(ProjectionTest, RejectsErrorsInSkippedValues) {
   for (const char* bad : {"1e400", "[1e400]", "tru", "[1,]", "{1}", R"("\x")", R"("\ud800")", "\"\x01\"", "\"open",
                           R"({"b":[[{"c" 1}]]})", "01", "-", "[[1]"}) {
-    EXPECT_EQ(kept(R"({"x":)" + std::string(bad) + R"(,"a":1})", {"a"}), "(refused)") << bad;
-    EXPECT_EQ(kept(R"({"a":1,"x":)" + std::string(bad) + "}", {"a"}), "(refused)") << bad;
-    EXPECT_EQ(kept(bad, {"a"}), "(refused)") << bad;
+    EXPECT_EQ(kept(R"({"x":)" + std::string(bad) + R"(,"a":1})", {"a"}), "(rejected)") << bad;
+    EXPECT_EQ(kept(R"({"a":1,"x":)" + std::string(bad) + "}", {"a"}), "(rejected)") << bad;
+    EXPECT_EQ(kept(bad, {"a"}), "(rejected)") << bad;
   }
   // RapidJSON's reader accepts this number as infinity.
-  EXPECT_EQ(kept(R"({"x":1.8e308,"a":1})", {"a"}), "(refused)");
-  EXPECT_EQ(kept(R"({"a":1} 2)", {"a"}), "(refused)");
+  EXPECT_EQ(kept(R"({"x":1.8e308,"a":1})", {"a"}), "(rejected)");
+  EXPECT_EQ(kept(R"({"a":1} 2)", {"a"}), "(rejected)");
   EXPECT_EQ(kept(R"({"x":"a \u0041 \ud83d\ude00 \" \\ end","\u0061":1})", {"a"}), R"({"a":1})");
 }
 
@@ -162,7 +162,7 @@ TEST_F(ProjectionTest, SkipsWhatAWholeLoadAcceptsAcrossTheEndOfTheBuffer) {
   for (const std::string& text : texts) {
     for (std::size_t inside = 0; inside <= text.size(); ++inside) {
       const std::string content = std::string(8192 - inside, ' ') + text;
-      EXPECT_EQ(kept(content, {"a"}) == "(refused)", kept(content, whole) == "(refused)") << text << inside;
+      EXPECT_EQ(kept(content, {"a"}) == "(rejected)", kept(content, whole) == "(rejected)") << text << inside;
     }
   }
 }

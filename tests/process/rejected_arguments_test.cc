@@ -1,4 +1,4 @@
-// Command lines that the parser refuses: invalid or missing arguments, and more than one file.
+// Command lines that the parser rejects: invalid or missing arguments, and more than one file.
 
 #include "messages.h"
 #include "tool_call.h"
@@ -6,17 +6,17 @@
 namespace kovalt::test {
 namespace {
 
-/// A call that the parser refuses because of `argument`.
+/// A call that the parser rejects because of `argument`.
 ToolCall invalid(const std::string& name, const std::string& argument) {
   return ToolCall(name).prints(invalidArgument(argument)).exits(1);
 }
 
-/// A call that the parser refuses because `option` lacks an argument.
+/// A call that the parser rejects because `option` lacks an argument.
 ToolCall lacking(const std::string& name, const std::string& option) {
   return ToolCall(name).prints(missingArguments(option)).exits(1);
 }
 
-/// A call that the parser refuses because it names a second file.
+/// A call that the parser rejects because it names a second file.
 ToolCall secondFile(const std::string& name) {
   return ToolCall(name).printsLine("Error: --file already specified").exits(1);
 }
