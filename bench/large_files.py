@@ -105,7 +105,7 @@ def display(m, record, peers, name, kind, work, megabytes):
     shown, plain = f"{m.tool} --file {name}", f"{m.bare} display {name}"
     m.shell(f"{shown} > edited.json; {plain} > saved.json")
     same_documents(m, "edited.json", "saved.json")
-    calls = [Call("Kovalt", shown), Call("the plain way", plain, time_bound=0.6, reference=True)]
+    calls = [Call("Kovalt", shown), Call("bare parse and print", plain, time_bound=0.6, reference=True)]
     if megabytes == SIZES[0]:
         jqs = peers.jq_calls(f"{{jq}} --indent 4 . {name}", rounds=3)
         m.check_answers(calls[:1] + jqs, as_json)

@@ -15,11 +15,11 @@ TERMS = """\
 - **Times Kovalt's**: the time or the memory of a program divided by that of Kovalt for the same work. Above 1, Kovalt
   needs less. A program that needs less than Kovalt is marked **ahead**.
 - **Bare parse**: a minimal program that parses the file with RapidJSON, the library that Kovalt uses, and exits. **Bare
-  parse and write** also saves the document, indented. **The plain way** prints it through RapidJSON's string buffer.
-  These, `cat`, and a program that only returns 0 are yardsticks, not competitors.
+  parse and write** also saves the document, indented. **Bare parse and print** prints it through RapidJSON's string
+  buffer. These, `cat`, and a program that only returns 0 are references, not competitors.
 - **Memory**: the peak resident memory of the process. **MB**: a million bytes.
 - **Exponent**: how a cost grows with the size of the input; 1 is linear, 2 is quadratic. Instructions are compared
-  between the first two sizes, processor time between the last two.
+  between the first and second size, processor time between the second and third.
 - **Instructions**: executed in user mode, counted by callgrind in an empty environment. The counts are repeatable.
 - **Times** are medians of several rounds, in which the programs take turns. A ratio is the median of the ratios of the
   rounds. All answers are compared before anything is timed, except those of `cat`, and of gron and yq on files of 5 MB.
@@ -46,7 +46,7 @@ def limit_text(bound):
         limit = f"at most {memory_text(bound['at_most'])}"
     else:
         limit = f"at most {bound['at_most']:,.15g}"
-    return f"{limit}: {'held' if bound['held'] else '**MISSED**'}"
+    return f"{limit}: {'held' if bound['held'] else '**missed**'}"
 
 
 def value_text(bound):
@@ -56,7 +56,16 @@ def value_text(bound):
 
 
 def bound_text(bound):
-    return f"{bound['group']}, {bound['work']}, {bound['what']}: {value_text(bound)}, {limit_text(bound)}"
+    if bound["what"].startswith("time of "):
+        program = bound["what"].removeprefix("time of ").removesuffix(", times Kovalt's")
+        measured = f"{program} took {value_text(bound)} times Kovalt's time; the limit is "
+    else:
+        measured = f"{bound['what']}: {value_text(bound)}, "
+    return f"{bound['group']}, {bound['work']}, {measured}{limit_text(bound)}"
+
+
+def ahead_text(program, times, what):
+    return f"{program} needs {(1 - times) * 100:.2g} % less {what} than Kovalt"
 
 
 def table(head, rows):
@@ -88,7 +97,8 @@ def growth_table(growth, bounds):
                      " / ".join("-" if seconds is None else time_text(seconds) for seconds in row["seconds"]),
                      *[value_text(bound) + ", " + limit_text(bound) for bound in judged],
                      *(["-"] if len(judged) == 1 else [])])
-    return table(["Work", "Sizes", "Kovalt's times", "Exponent in instructions", "Exponent in time"], rows)
+    return table(["Work", "Sizes", "Kovalt's times", "Exponent in instructions: first and second size",
+                  "Exponent in time: second and third size"], rows)
 
 
 def summary(data):
@@ -96,8 +106,8 @@ def summary(data):
     missed = [bound for bound in bounds if not bound["held"]]
     lines = [f"Limits that Kovalt has to meet: {len(bounds)}, missed: {len(missed)}{':' if missed else '.'}"]
     lines += ["", *[f"- {bound_text(bound)}" for bound in missed]] if missed else []
-    ahead = [f"- {row['program']}: {comparison['group'].lower()}, {comparison['work']}: {figure(row[times])} times "
-             f"Kovalt's {what}" for comparison in data["comparisons"] for row in comparison["rows"]
+    ahead = [f"- {comparison['group']}, {comparison['work']}: {ahead_text(row['program'], row[times], what)}"
+             for comparison in data["comparisons"] for row in comparison["rows"]
              for mark, times, what in (("ahead", "times", "time"), ("ahead_in_memory", "memory_times", "memory"))
              if row.get(mark)]
     lines += ["", "Programs ahead of Kovalt:", "", *(ahead or ["- none"])]

@@ -4,6 +4,7 @@ from make_data import make_small
 from measuring import Call, as_json
 
 GROUP = "Start-up"
+MAKE_WORK = "make a small document"
 READ_WORK = "read one key of a 20-line file"
 MOST_INSTRUCTIONS = 70_000
 
@@ -12,7 +13,7 @@ def measure(m, record, peers):
     make_small(m.folder)
     add = f"{m.tool} --addString a.b c"
     read = f"{m.tool} --file small.json --read network.webSocketPort"
-    for work, command in (("make a small document", add), (READ_WORK, read)):
+    for work, command in ((MAKE_WORK, add), (READ_WORK, read)):
         record.judge(GROUP, work, "instructions", m.instructions(command), at_most=MOST_INSTRUCTIONS)
 
     calls = [Call("Kovalt", add)]
@@ -20,7 +21,7 @@ def measure(m, record, peers):
     calls += peers.jq_calls("{jq} -n '{a:{b:\"c\"}}'", rounds=5)
     m.check_answers(calls, as_json)
     calls.insert(1, Call("a program that returns 0", m.nothing, time_bound=1.25, reference=True))
-    record.compare(GROUP, "make a small document", calls, rounds=31, runs=60, patience=30)
+    record.compare(GROUP, MAKE_WORK, calls, rounds=31, runs=60, patience=30)
 
     calls = [Call("Kovalt", read)]
     calls += peers.jj_calls("{jj} -i small.json network.webSocketPort")
