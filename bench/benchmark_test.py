@@ -71,8 +71,17 @@ class Judgement(unittest.TestCase):
         self.assertEqual([True, False, True, False], [bound["held"] for bound in self.record.bounds])
 
     def test_a_missed_bound_is_marked(self):
-        self.assertIn("MISSED", report.bound_text(self.record.judge("g", "w", "x", 3, at_most=2)))
-        self.assertNotIn("MISSED", report.bound_text(self.record.judge("g", "w", "x", 1, at_most=2)))
+        self.assertIn("**missed**", report.bound_text(self.record.judge("g", "w", "x", 3, at_most=2)))
+        self.assertNotIn("missed", report.bound_text(self.record.judge("g", "w", "x", 1, at_most=2)))
+
+    def test_a_bound_on_a_time_says_which_program_took_it(self):
+        bound = self.record.judge("g", "w", "time of other, times Kovalt's", 3.22, at_least=3.33)
+        self.assertEqual("g, w, other took 3.22 times Kovalt's time; the limit is at least 3.33: **missed**",
+                         report.bound_text(bound))
+
+    def test_a_program_ahead_is_shown_with_what_it_saves(self):
+        self.assertEqual("jq needs 5 % less memory than Kovalt", report.ahead_text("jq", 0.95, "memory"))
+        self.assertEqual("jj needs 0.3 % less time than Kovalt", report.ahead_text("jj", 0.997, "time"))
 
     def test_a_bound_on_the_share_of_a_time_is_judged_as_times_the_tools(self):
         self.measuring.run = lambda call, runs=1: {"tool": (2.0, 2.0, 10), "other": (3.0, 3.0, 5)}[call.program]
