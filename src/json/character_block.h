@@ -20,13 +20,16 @@ inline bool isWhitespace(char character) {
   return character == ' ' || character == '\n' || character == '\r' || character == '\t';
 }
 
-inline constexpr std::array<bool, 256> kIsUnescaped = [] {
+/// For each byte whether it needs no escape in a JSON string.
+constexpr std::array<bool, 256> unescapedBytes() {
   std::array<bool, 256> unescaped{};
   for (std::size_t i = ' '; i < unescaped.size(); ++i) {
     unescaped[i] = i != '"' && i != '\\';
   }
   return unescaped;
-}();
+}
+
+inline constexpr std::array<bool, 256> kIsUnescaped = unescapedBytes();
 
 /// Whether `character` needs no escape in a JSON string: it is not a quote, a backslash or a control character.
 inline bool isUnescaped(char character) { return kIsUnescaped[static_cast<unsigned char>(character)]; }
