@@ -34,7 +34,7 @@ class RandomJson {
 
   /// A document into which key paths lead deep: it usually has an array of objects at "a", or is one.
   std::string document() {
-    const std::string array = '[' + element(4) + ',' + element(4) + ',' + element(3) + ']';
+    std::string array = '[' + element(4) + ',' + element(4) + ',' + element(3) + ']';
     switch (below(6)) {
       case 0:
         return value(4);

@@ -80,14 +80,15 @@ TEST_P(FoundMembers, EqualThoseOfALinearSearchAfterTheObjectIsReplaced) {
 
 INSTANTIATE_TEST_SUITE_P(MemberFinder, FoundMembers, testing::Values(1, 2, 10, 100, 1000));
 
-const TextHash kHash(0, 0);
+/// A hash with a known key.
+TextHash knownHash() { return {0, 0}; }
 
 /// Two names whose hashes agree in the 32 bits that an index stores.
 std::pair<std::string, std::string> equalHashes() {
   std::unordered_map<std::uint32_t, std::string> seen;
   for (int i = 0;; ++i) {
     const std::string text = std::to_string(i);
-    const auto hash = static_cast<std::uint32_t>(kHash(text));
+    const auto hash = static_cast<std::uint32_t>(knownHash()(text));
     const auto [other, isNew] = seen.emplace(hash, text);
     if (!isNew) {
       return {other->second, text};
@@ -102,7 +103,7 @@ TEST(MemberFinder, DistinguishesNamesWithEqualHashes) {
     json += R"(,"member )" + std::to_string(i) + R"(":0)";
   }
   Document document = parsed(json + "}");
-  MemberFinder finder(kHash);
+  MemberFinder finder(knownHash());
   for (int i = 0; i < 50; ++i) {
     ASSERT_EQ(finder.find(document, other), nullptr);
     ASSERT_EQ(finder.find(document, one), &document.MemberBegin()->value);

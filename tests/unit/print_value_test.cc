@@ -56,10 +56,10 @@ TEST(PrintValue, EscapesEachCharacterInNamesAndStrings) {
     document.AddMember(copyText(text, document.GetAllocator()), copyText(text, document.GetAllocator()),
                        document.GetAllocator());
     const std::string quoted = "\"ab" + escaped(character) + "cd\"";
-    EXPECT_EQ(printed(document), R"({
-    )" + quoted + ": " + quoted + R"(
-}
-)") << code;
+    std::string expected = R"({
+    )";
+    expected.append(quoted).append(": ").append(quoted).append("\n}\n");
+    EXPECT_EQ(printed(document), expected) << code;
   }
 }
 
