@@ -51,7 +51,7 @@ inline DigitBlock readDigitBlock(const char* block) {
 }
 
 /// Returns the end of the number at `text` by JSON's grammar, and sets `decimals` to how many digits it has after the
-/// point. Returns nullptr for what is left to RapidJSON's reader: what is not a number, has an exponent, or ends at a
+/// point. Returns nullptr for text that is left to RapidJSON's reader: not a number, with an exponent, or ending at a
 /// NUL byte, where it may continue after the buffer. `decimals` is then unspecified. `endOfDigits` is called with the
 /// start of each run of digits and returns its end. Requires a NUL byte after the text, and what `endOfDigits`
 /// requires.

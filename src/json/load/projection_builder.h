@@ -1,6 +1,6 @@
 #pragma once
 
-// The parsing of values of which a projection keeps a part.
+// The parsing of values that a projection keeps in part.
 
 #include <cstddef>
 #include <optional>
@@ -78,7 +78,7 @@ class ProjectionBuilder : public TokenHandler<ProjectionBuilder> {
   }
 
  private:
-  /// An array or object of which the projection keeps some elements or members.
+  /// An array or object with elements or members that the projection keeps.
   struct OpenContainer {
     Projection::Place place;
     std::size_t number;            ///< Among all such containers of the document.
@@ -107,7 +107,7 @@ class ProjectionBuilder : public TokenHandler<ProjectionBuilder> {
   std::optional<Projection::Place> next_ = Projection::kRoot;  ///< The place of the next value, if it is kept.
   std::vector<OpenContainer> open_;
   std::size_t opened_ = 0;
-  std::vector<std::size_t> keptIn_;  ///< By place: the number of the last object of which the member there was kept.
+  std::vector<std::size_t> keptIn_;  ///< By place: the number of the last object whose member there was kept.
 };
 
 }  // namespace kovalt
