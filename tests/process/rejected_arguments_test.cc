@@ -100,7 +100,7 @@ std::vector<ToolCall> files() {
       secondFile("second_file_without_its_path").call("--file a.json --file"),
       secondFile("second_file_with_an_empty_path").call("-f a.json -f ''"),
 
-      // An empty path is no file.
+      // An empty path names no file.
       ToolCall("empty_path").call("--file '' -as k v -r k").printsLine("v"),
       ToolCall("two_empty_paths").call("-f '' -f ''").printsLine("{}"),
       ToolCall("file_after_an_empty_path").given("f.json", "7").call("-f '' -f f.json -r ''").printsLine("7"),
