@@ -25,7 +25,7 @@ foreach(path ${bin}/Kovalt ${man}/man1/Kovalt.1 ${share}/bash-completion/complet
 endforeach()
 
 # Prints the line to add to a shell's startup file, unless the prefix is one of the further arguments, which the shell
-# searches anyway.
+# searches anyway, or DESTDIR is set.
 function(print_completion_line shell file line)
   if(NOT CMAKE_INSTALL_PREFIX IN_LIST ARGN AND "$ENV{DESTDIR}" STREQUAL "")
     message(NOTICE "To complete in ${shell}, add to ${file}:\n  ${line}")
