@@ -1,8 +1,7 @@
-// The minimal work of RapidJSON on a file, with the same streams and buffers as the tool, as a reference.
+// The minimal work of RapidJSON on a file, with its own streams and buffers of the tool's sizes, as a reference.
 //   bare_json load FILE        parses FILE
 //   bare_json save FILE OUT    parses FILE and writes it to OUT, indented by two spaces
-//   bare_json display FILE     parses FILE and prints it through RapidJSON's string buffer, which copies the
-//                              text twice: from the buffer, and into a line of output
+//   bare_json display FILE     parses FILE and prints it from a copy of RapidJSON's string buffer
 
 #include <rapidjson/document.h>
 #include <rapidjson/filereadstream.h>

@@ -63,18 +63,18 @@ class Judgement(unittest.TestCase):
         self.measuring = Measuring(BUILD, Path(tempfile.gettempdir()), True)
         self.record = Record(self.measuring)
 
-    def test_a_bound_is_held_up_to_its_limit_and_missed_beyond(self):
+    def test_a_limit_is_held_by_equal_figures_and_missed_beyond(self):
         self.assertTrue(self.record.judge("g", "w", "x", 1.15, at_most=1.15)["held"])
         self.assertFalse(self.record.judge("g", "w", "x", 1.16, at_most=1.15)["held"])
         self.assertTrue(self.record.judge("g", "w", "x", 2, at_least=2)["held"])
         self.assertFalse(self.record.judge("g", "w", "x", 1.99, at_least=2)["held"])
         self.assertEqual([True, False, True, False], [bound["held"] for bound in self.record.bounds])
 
-    def test_a_missed_bound_is_marked(self):
+    def test_a_missed_limit_is_marked(self):
         self.assertIn("**missed**", report.bound_text(self.record.judge("g", "w", "x", 3, at_most=2)))
         self.assertNotIn("missed", report.bound_text(self.record.judge("g", "w", "x", 1, at_most=2)))
 
-    def test_a_bound_on_a_time_says_which_program_took_it(self):
+    def test_a_limit_on_a_time_says_which_program_took_it(self):
         bound = self.record.judge("g", "w", "time of other, times Kovalt's", 3.22, at_least=3.33)
         self.assertEqual("g, w, other took 3.22 times Kovalt's time; the limit is at least 3.33: **missed**",
                          report.bound_text(bound))
@@ -83,7 +83,7 @@ class Judgement(unittest.TestCase):
         self.assertEqual("jq needs 5 % less memory than Kovalt", report.ahead_text("jq", 0.95, "memory"))
         self.assertEqual("jj needs 0.3 % less time than Kovalt", report.ahead_text("jj", 0.997, "time"))
 
-    def test_a_bound_on_the_share_of_a_time_is_judged_as_times_the_tools(self):
+    def test_a_limit_on_the_share_of_a_time_is_judged_as_times_the_tools(self):
         self.measuring.run = lambda call, runs=1: {"tool": (2.0, 2.0, 10), "other": (3.0, 3.0, 5)}[call.program]
         for share, held in ((0.7, True), (0.6, False)):
             self.record.compare("g", str(share), [Call("tool", ""), Call("other", "", time_bound=share)], rounds=2)
@@ -91,7 +91,7 @@ class Judgement(unittest.TestCase):
             self.assertEqual((1.5, 0.5, False, held),
                              (row["times"], row["memory_times"], row["ahead"], row["bound"]["held"]))
 
-    def test_a_peer_that_takes_less_is_ahead_and_a_measure_is_not(self):
+    def test_a_peer_that_takes_less_is_ahead_and_a_reference_is_not(self):
         self.measuring.run = lambda call, runs=1: {"tool": (2.0, 2.0, 10), "other": (1.0, 1.0, 5)}[call.program]
         for reference in (False, True):
             self.record.compare("g", "w", [Call("tool", ""), Call("other", "", reference=reference)])

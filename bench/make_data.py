@@ -10,7 +10,7 @@ from pathlib import Path
 
 SEED = 20261121
 MEGABYTE = 1_000_000
-#: A file repeats this many bytes of distinct elements, more than the caches of a processor, up to its size.
+#: A file repeats this many bytes of distinct elements, more than the L2 cache of a processor, up to its size.
 DISTINCT = 4 * MEGABYTE
 KINDS = {
     "records": "compact records",
@@ -46,7 +46,7 @@ def record(number, rng):
 
 
 def category(number, rng, depth=0):
-    """Returns a category with articles and nested categories, fifteen objects and arrays deep."""
+    """Returns a category with articles and nested categories, sixteen objects and arrays deep."""
     articles = [{"id": rng.randrange(1 << 20), "name": f"article {rng.randrange(10_000)}", "stock": rng.randrange(500),
                  "price": {"amount": round(rng.random() * 900, 2), "currency": "EUR"}} for _ in range(2)]
     below = [category(rng.randrange(1 << 20), rng, depth + 1)] if depth < 6 else []

@@ -11,6 +11,12 @@ import subprocess
 import sys
 import tempfile
 from dataclasses import dataclass, field
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.append(str(Path(__file__).resolve().parents[1] / "tests/instructions"))
+
+import callgrind  # noqa: E402
 
 
 def one_line(answer):
@@ -27,13 +33,12 @@ class Call:
 
     program: str
     command: object
-    #: The command that prints the answer, if the call does not. None if no answer can be compared.
-    answer: object = ""
+    #: The command that prints the answer, if the call does not.
+    answer: str = ""
     #: A command that runs before each run. It is not measured.
     prepare: str = ""
-    #: The limits for the tool, as multiples of this call's time and memory.
+    #: The limit for the tool's time, as a multiple of this call's.
     time_bound: float = None
-    memory_bound: float = None
     #: Whether this is only a reference, not another program for the same task.
     reference: bool = False
     #: The greatest number of rounds for this call.
@@ -79,8 +84,6 @@ class Measuring:
         """Exits unless all calls give the same answer."""
         first = expected
         for call in calls:
-            if call.answer is None:
-                continue
             if call.prepare:
                 self.shell(call.prepare)
             answer = normal(self.shell(call.answer or call.arguments()))
@@ -124,15 +127,8 @@ class Measuring:
 
     def instructions(self, command):
         """Returns the number of user-mode instructions, which is the same in every run."""
-        arguments = shlex.split(command) if isinstance(command, str) else command
-        with tempfile.NamedTemporaryFile(mode="r") as log:
-            subprocess.run(
-                # The start of a process reads its environment, so only one that is always the same makes counts
-                # repeatable.
-                ["env", "-i", f"PATH={os.environ['PATH']}", "valgrind", "--tool=callgrind",
-                 "--callgrind-out-file=/dev/null", f"--log-file={log.name}"] + arguments,
-                cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
-            return int(re.search(r"Collected : (\d+)", log.read()).group(1))
+        program, *arguments = shlex.split(command) if isinstance(command, str) else command
+        return callgrind.instructions(program, arguments, self.folder)
 
     def size(self, name):
         return (self.folder / name).stat().st_size

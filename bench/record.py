@@ -1,4 +1,4 @@
-"""Collects the figures of a run as plain data, and checks them against their bounds."""
+"""Collects the figures of a run as plain data, and checks them against their limits."""
 
 import statistics
 
@@ -15,7 +15,7 @@ class Record:
 
     A comparison has a row for each program, with the tool in the first. `times` and `memory_times` are multiples of the
     tool's figures, so above 1 the tool is better. A growth has the tool's figures for several sizes. `held` says
-    whether a bound is kept.
+    whether a limit is met.
     """
 
     def __init__(self, measuring):

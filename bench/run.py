@@ -55,7 +55,7 @@ def installed_versions():
 
 
 def commit(source):
-    """Returns the commit that is measured, and whether files differ from it."""
+    """Returns the commit that is measured, with a remark if files differ from it."""
     try:
         known = subprocess.check_output(["git", "-C", source, "rev-parse", "--short=10", "HEAD"],
                                         stderr=subprocess.DEVNULL).decode().strip()
@@ -66,16 +66,13 @@ def commit(source):
 
 
 def main():
-    parser = argparse.ArgumentParser(prog="scripts/bench", description=__doc__.split("\n\n")[0])
-    parser.add_argument("build", type=Path, help=argparse.SUPPRESS)
-    parser.add_argument("results", type=Path, help=argparse.SUPPRESS)
-    parser.add_argument("--quick", action="store_true",
-                        help="use tiny files and few rounds, to test the benchmark itself")
-    parser.add_argument("--only", choices=PARTS, action="append", help="run only this part; may be repeated")
-    parser.add_argument("--jq", metavar="PATH", action="append", default=[],
-                        help="another jq to compare with; may be repeated")
-    parser.add_argument("--jj", metavar="PATH", action="append", default=[],
-                        help="a jj to compare with; may be repeated")
+    parser = argparse.ArgumentParser(prog="scripts/bench")
+    parser.add_argument("build", type=Path)
+    parser.add_argument("results", type=Path)
+    parser.add_argument("--quick", action="store_true")
+    parser.add_argument("--only", choices=PARTS, action="append")
+    parser.add_argument("--jq", action="append", default=[])
+    parser.add_argument("--jj", action="append", default=[])
     arguments = parser.parse_args()
     build = arguments.build.resolve()
     # Only a whole run is recorded for the version.
@@ -108,7 +105,7 @@ def main():
     path.write_text(json.dumps(data, indent=1) + "\n", encoding="utf-8")
     report.write(data, path)
     missed = [bound for bound in data["bounds"] if not bound["held"]]
-    print(f"\n{len(data['bounds'])} bounds, missed: {len(missed)}")
+    print(f"\n{len(data['bounds'])} limits, missed: {len(missed)}")
     for bound in missed:
         print(f"- {report.bound_text(bound)}")
     print(f"{path.with_suffix('.md')}, in {data['minutes']} minutes")
