@@ -20,7 +20,7 @@ namespace kovalt::fuzz {
 namespace {
 
 enum class Commas { stay, becomeSpaces };
-enum class Quotes { stay, go };
+enum class Quotes { stay, areRemoved };
 
 std::string slowReplace(const std::string& text, char wanted, const std::string& replacement) {
   std::string replaced;
@@ -52,7 +52,7 @@ std::string slowFlatText(std::string text, Commas commas, Quotes quotes) {
   if (commas == Commas::becomeSpaces) {
     text = slowCommasToSpaces(text);
   }
-  return quotes == Quotes::go ? slowReplace(text, '"', "") : text;
+  return quotes == Quotes::areRemoved ? slowReplace(text, '"', "") : text;
 }
 
 /// Returns what --read prints for the path.
@@ -141,9 +141,9 @@ void tryInput(std::string input) {
     return;
   }
   tryArrayRead(ReadArrayCommaAction(path), document, Commas::stay, Quotes::stay);
-  tryArrayRead(ReadArrayCommaNoQuoteAction(path), document, Commas::stay, Quotes::go);
+  tryArrayRead(ReadArrayCommaNoQuoteAction(path), document, Commas::stay, Quotes::areRemoved);
   tryArrayRead(ReadArraySpaceAction(path), document, Commas::becomeSpaces, Quotes::stay);
-  tryArrayRead(ReadArraySpaceNoQuoteAction(path), document, Commas::becomeSpaces, Quotes::go);
+  tryArrayRead(ReadArraySpaceNoQuoteAction(path), document, Commas::becomeSpaces, Quotes::areRemoved);
   Lookups lookups;
   lengthen(resolveExisting(KeyPath(path, "."), document, lookups), count, modulus, document.GetAllocator());
   std::vector<std::string> fields;

@@ -4,7 +4,6 @@
 
 namespace kovalt::fuzz {
 
-/// A documented early exit.
 enum class Exit {
   typeClash,    ///< Status 1: a merge meets two values of different types.
   notAnObject,  ///< An assertion of RapidJSON: a merge or removal works on a value that is not an object.

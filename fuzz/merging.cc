@@ -1,7 +1,6 @@
 // A merge and a removal have the same result as on plain lists. An input has a line with three numbers for `widen`, two
 // documents, and two lines with the key path of a removal each.
 
-#include <algorithm>
 #include <functional>
 #include <optional>
 #include <string>

@@ -180,7 +180,7 @@ class Call {
   }
 
   bool remove() {
-    bool anyRemoved = false;
+    bool hasRemovals = false;
     bool allRemoved = true;
     for (const PlainOption& option : options_) {
       if (!isRemoval(option)) {
@@ -191,10 +191,10 @@ class Call {
         call_.earlyExit = removal.earlyExit;
         return false;
       }
-      anyRemoved = true;
+      hasRemovals = true;
       allRemoved = allRemoved && removal.succeeded;
     }
-    call_.modified |= anyRemoved && allRemoved;
+    call_.modified |= hasRemovals && allRemoved;
     return true;
   }
 

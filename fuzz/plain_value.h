@@ -1,6 +1,6 @@
 #pragma once
 
-// A JSON value in the most obvious form, with a merge and a removal in the most obvious way.
+// A JSON value in the simplest form, with the simplest merge and removal.
 
 #include <optional>
 #include <string>

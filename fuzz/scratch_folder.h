@@ -3,7 +3,6 @@
 // The folder for the files of the current input.
 
 #include <map>
-#include <optional>
 #include <string>
 
 #include "json/document.h"
@@ -22,10 +21,10 @@ Files readScratchFiles();
 /// Replaces all files of the scratch folder.
 void writeScratchFiles(const Files& files);
 
-/// Loads a file with this content, as `loadDocument` does.
+/// Loads a file with this content, as `loadDocument` does. Returns whether it loads.
 bool loadText(const std::string& text, Document& document);
 
-/// Returns the content of a file that `writeDocument` wrote.
+/// Saves `document` with `writeDocument` and returns the file's content.
 std::string savedText(const Document& document);
 
 }  // namespace kovalt::fuzz

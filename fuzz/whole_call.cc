@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <initializer_list>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -24,7 +25,7 @@ bool staysInside(const std::string& name) {
   return name.find('/') == std::string::npos || (name.front() != '/' && name.find("..") == std::string::npos);
 }
 
-bool holds(const std::vector<std::string>& arguments, std::initializer_list<const char*> wanted) {
+bool containsAny(const std::vector<std::string>& arguments, std::initializer_list<const char*> wanted) {
   return std::find_first_of(arguments.begin(), arguments.end(), wanted.begin(), wanted.end()) != arguments.end();
 }
 
@@ -46,7 +47,7 @@ bool isWhole(const std::string& name, const Files& before, const Files& after) {
 /// Whether a merge or removal may work on a value that is not an object: the root of a file, or the result of an edit
 /// of the root.
 bool mayMeetAnotherType(const std::vector<std::string>& arguments, const Files& files) {
-  return holds(arguments, {""}) ||
+  return containsAny(arguments, {""}) ||
          std::any_of(files.begin(), files.end(), [](const auto& file) { return loadsAsAnotherType(file.second); });
 }
 
@@ -59,7 +60,7 @@ bool isExplained(Exit kind, const std::vector<std::string>& arguments, const Fil
     case Exit::skippedStep:
       break;
   }
-  return holds(arguments, {"--removeAndClear", "-rmc"});
+  return containsAny(arguments, {"--removeAndClear", "-rmc"});
 }
 
 /// Runs a parsed command line. Returns false if it exited early, which `arguments` and `files` must explain.
@@ -75,7 +76,7 @@ bool runsThrough(const ToolContext& context, const std::vector<std::string>& arg
   } catch (const std::out_of_range&) {
     badNumber = true;
   }
-  expect(!badNumber || holds(arguments, {"--addNumber", "-an", "--addArrayNumber", "-aan"}),
+  expect(!badNumber || containsAny(arguments, {"--addNumber", "-an", "--addArrayNumber", "-aan"}),
          "only an addition of numbers aborts for a bad number");
   const bool early = earlyExit || badNumber;
   expect(!early || readScratchFiles() == files, "a call that exits early changes no file");
