@@ -193,7 +193,8 @@ def check_shell(shell, prefix, folder):
 
 
 def check_bash_settings(prefix, folder):
-    """Returns the number of faults if TAB inserts each candidate in turn and another key all of them, and beyond UTF-8."""
+    """Returns the number of faults with a TAB that inserts each candidate in turn, with a key that inserts all of them,
+    and in the C locale with another history character."""
     check = Check("bash", prefix, folder, ["bind 'TAB:menu-complete'"])
     check.complete_deeper("pairs", QUOTES_AND_BACKSLASHES, "\t")
     for i, name in enumerate(NAMES):

@@ -9,6 +9,7 @@
 #include "completion/candidate_list.h"
 #include "json/member_finder.h"
 #include "json/path/resolve_key_path.h"
+#include "support/json_text.h"
 #include "support/row.h"
 
 namespace kovalt::test {
@@ -27,13 +28,6 @@ struct CandidateRow {
 };
 
 std::ostream& operator<<(std::ostream& out, const CandidateRow& row) { return out << row.name; }
-
-Document parsed(const std::string& json) {
-  Document document;
-  document.Parse(json.data(), json.size());
-  EXPECT_FALSE(document.HasParseError()) << json;
-  return document;
-}
 
 std::vector<CandidateRow> memberRows() {
   const std::string json = R"({"network":{"host":"h","port":1,"tls":{"on":true}},"name":"x","none":null,"":{"a":1}})";
@@ -122,7 +116,7 @@ std::vector<CandidateRow> removalRows() {
 
 class KeyPathCandidates : public testing::TestWithParam<CandidateRow> {};
 
-/// A separate fixture, because removals do not use the walk that finds the candidates in AreFoundByTheWalk.
+/// A separate fixture: AreFoundByTheWalk uses the walk of reads, which removals do not use.
 class RemovalCandidates : public testing::TestWithParam<CandidateRow> {};
 
 void checkCandidates(const CandidateRow& row) {

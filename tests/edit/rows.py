@@ -22,7 +22,7 @@ class Row:
     file: str = "f.json"  # None for no words at all.
     create: bool = False
     files: dict = field(default_factory=lambda: {"f.json": SMALL})
-    prepare: object = ":"  # A shell command or a function before the call, by root if root runs the test.
+    prepare: object = ":"  # A shell command or a function that runs before the call, by root if root runs the test.
     given: bytes = None  # The standard input.
     how: dict = field(default_factory=dict)
     prints: bytes = b""
@@ -222,7 +222,7 @@ UNWRITTEN = "its copy cannot be written"
 CORES = ["sh", "-c", 'ulimit -S -c "$(ulimit -H -c)"; exec "$0" "$@"']
 CHANGED = "changed by another program during the call"
 SURROUNDINGS = [
-    # The new content has 24 bytes, and then 2 that a limit may cut to the old content.
+    # The new document has 24 bytes. That of the old number is `12`, which the limit cuts to the old document.
     *(refuses(f"a limit of {size} bytes", "-as k v", UNWRITTEN, how=limited(size)) for size in range(2, 24, 3)),
     edits("a limit of 24 bytes", "-as k v", SMALL, EDITED, how=limited(24)),
     refuses("a limit that leaves the old number", ["-an", "", "12"], UNWRITTEN, b"1", how=limited(1)),

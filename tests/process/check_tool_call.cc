@@ -1,6 +1,5 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -10,7 +9,7 @@
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <ostream>
+#include <stdexcept>
 
 #include "tool_call.h"
 

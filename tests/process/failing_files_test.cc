@@ -7,12 +7,12 @@
 namespace kovalt::test {
 namespace {
 
-/// A call that loads, merges or displays files and reports `message`.
+/// A call that loads or merges files, reports `message` and prints an empty document.
 ToolCall loading(const std::string& name, const std::string& options, const std::string& message) {
   return ToolCall(name).call(options).printsLine("{}").reports(message);
 }
 
-/// An edit of the file `path`, which can be neither loaded nor saved.
+/// An edit of the file `path`, which cannot be saved.
 ToolCall notSaved(const std::string& name, const std::string& path) {
   return ToolCall(name).call({"-f", path, "-as", "k", "v"}).reports(cannotWrite(path)).exits(1);
 }
@@ -63,7 +63,7 @@ std::vector<ToolCall> loads() {
           .given("f.json", "{nothing")
           .leaves("f.json", "{}"),
 
-      // A directory can be opened and not read.
+      // A directory can be opened but not read.
       loading("directory", "--file d", cannotParse("d")).givenDirectory("d"),
 
       // The path is reported as it was typed.
@@ -87,7 +87,7 @@ std::vector<ToolCall> merges() {
       loading("byte_order_mark", "-af s.json", cannotParse("s.json")).given("s.json", "\xef\xbb\xbf{\"a\":1}"),
       loading("nul_after_the_value", "-af s.json", cannotParse("s.json")).given("s.json", std::string("{}\0", 3)),
 
-      // The document is unchanged, except that a value that is not an object becomes an empty one.
+      // The document is unchanged, except that a value at the path of a merge becomes an object, if it is not one.
       changed("missing_file_at_each_type", R"({"a":"s","b":[1],"c":{"d":1}})",
               "-af s.json -afat a s.json -afat b s.json -afat c s.json -afat new.key s.json",
               R"({"a":{},"b":{},"c":{"d":1},"new":{"key":{}}})")

@@ -23,7 +23,7 @@ inline std::string notComparable(const std::string& step) {
          "refKey must be a bool/number/string/array of numbers/strings.\n";
 }
 
-/// A boolean, or an array with one, is rejected; `values` is its text in lower case.
+/// An addition of booleans rejects `values`: a value in lower case, or all values of an array, such as `[ yes true ]`.
 inline std::string rejected(const std::string& values) {
   return "Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, " + values + " rejected.\n";
 }

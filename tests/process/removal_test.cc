@@ -97,7 +97,7 @@ std::vector<ToolCall> clearingRemovals() {
   "b": 2
 })"),
 
-      // Clearing aborts if a step was skipped.
+      // Clearing aborts if a step was skipped and a member was removed.
       ToolCall("skipped_string").given("f.json", R"({"a":"s","b":1})").call("-fd f.json -rmc a.b -r a").aborts(),
       ToolCall("skipped_missing_step").given("f.json", R"({"b":1,"c":2})").call("-f f.json -rmc x.b").aborts(),
       ToolCall("step_skipped_after_an_entered_one")

@@ -23,8 +23,8 @@ struct Entry {
 /// A row of a table. Everything that a row does not name must be empty, zero or unchanged: standard output and standard
 /// error are empty, the exit status is 0, every file keeps its bytes and its mode, and no file appears.
 ///
-/// Expectations are compared byte for byte. One of several lines is a raw literal that looks like the output and begins
-/// right after `R"(`: a display ends with an end of line before `)"`, a saved file with its last brace or bracket.
+/// Expectations are compared byte for byte. An expectation of several lines is a raw literal that looks like the output
+/// and begins right after `R"(`: a display ends with an end of line before `)"`, a saved file does not.
 class ToolCall {
  public:
   /// `name` says what the row checks, in letters, digits and underscores.

@@ -11,7 +11,7 @@ ToolCall listed(const std::string& name, const std::string& arguments, const std
   return ToolCall(name).call(arguments + " --read ''").printsLine(added);
 }
 
-/// A call whose list ends before `argument`, which is then not an option.
+/// A call whose list ends before `argument`, which the parser then rejects as an option.
 ToolCall ended(const std::string& name, const std::string& argument) {
   return ToolCall(name).prints(invalidArgument(argument)).exits(1);
 }

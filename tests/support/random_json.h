@@ -16,7 +16,7 @@ class RandomJson {
 
   std::string pick(const std::vector<std::string>& texts) { return texts[below(texts.size())]; }
 
-  /// A JSON text of at most `depth` nested containers.
+  /// A JSON text of at most `depth` + 1 nested containers.
   std::string value(int depth) {
     const std::size_t kind = below(depth > 0 ? 11 : 6);
     if (kind < 6) {
@@ -49,7 +49,7 @@ class RandomJson {
   /// A step of a key path: a name or a selection.
   std::string step() { return name() + (below(3) == 0 ? pick({"=7", "=-7.5", "=true", "=a", "=", "=t"}) : ""); }
 
-  /// A key path of at most `steps` steps.
+  /// A key path of at most `steps` steps, and one more for each name with a dot.
   std::string path(std::size_t steps) {
     std::string text = below(8) == 0 ? "" : "a";
     for (std::size_t count = below(steps); count > 0; --count) {

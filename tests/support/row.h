@@ -9,7 +9,7 @@
 
 namespace kovalt::test {
 
-/// The base of every row: its name says what it checks, in letters, digits and underscores.
+/// A base for rows. The name says what it checks, in letters, digits and underscores.
 struct Row {
   std::string name;
 };

@@ -64,7 +64,7 @@ double read(std::uint64_t number, int power) {
   return std::strtod((std::to_string(number) + "e" + std::to_string(power)).c_str(), nullptr);
 }
 
-/// Whether a number with one digit less also reads as `value`: the next lower or the next higher one. If neither does,
+/// Whether a number with one digit fewer also reads as `value`: the next lower or the next higher one. If neither does,
 /// no shorter number does.
 bool readsFromFewer(const Digits& digits, double value) {
   const std::uint64_t below = std::stoull(digits.text) / 10;

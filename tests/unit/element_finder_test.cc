@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <random>
 #include <string>
-#include <string_view>
 
 #include "json/path/find_object_by_ref.h"
 #include "json/path/resolve_key_path.h"

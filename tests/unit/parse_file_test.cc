@@ -1,5 +1,5 @@
-// RapidJSON's reader gets the same from ReaderStream as from its own FileReadStream, and a load accepts what it
-// accepts.
+// RapidJSON's reader gets the same from ReaderStream as from its own FileReadStream, and a load accepts the same texts,
+// except numbers that this reader reads as infinity.
 
 #include <gtest/gtest.h>
 #include <rapidjson/filereadstream.h>
@@ -37,7 +37,7 @@ std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
              << outcome.text;
 }
 
-/// Whether a stream is at its end: only there it does not advance.
+/// Whether a stream is at its end: only there, Take does not advance it.
 template <typename Stream>
 bool isAtEnd(Stream& stream) {
   const std::size_t offset = stream.Tell();
