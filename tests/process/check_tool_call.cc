@@ -20,19 +20,19 @@ namespace fs = std::filesystem;
 
 constexpr unsigned kUnprivilegedUser = 65534;
 
-/// A fresh directory, which the destructor removes with its content.
-class WorkingDirectory {
+/// A fresh folder, which the destructor removes with its content.
+class WorkingFolder {
  public:
-  WorkingDirectory() {
+  WorkingFolder() {
     std::string pattern = (fs::temp_directory_path() / "kovalt-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr) {
-      throw std::runtime_error("cannot create a working directory");
+      throw std::runtime_error("cannot create a working folder");
     }
     path_ = pattern;
   }
-  WorkingDirectory(const WorkingDirectory&) = delete;
-  WorkingDirectory& operator=(const WorkingDirectory&) = delete;
-  ~WorkingDirectory() {
+  WorkingFolder(const WorkingFolder&) = delete;
+  WorkingFolder& operator=(const WorkingFolder&) = delete;
+  ~WorkingFolder() {
     for (const auto& entry : fs::recursive_directory_iterator(path_)) {
       if (!entry.is_symlink() && entry.is_directory()) {
         fs::permissions(entry.path(), fs::perms::owner_all);
@@ -76,11 +76,11 @@ class CapturedStream {
   std::FILE* file_;
 };
 
-void writeEntry(const fs::path& directory, const Entry& entry) {
-  const fs::path path = directory / entry.path;
+void writeEntry(const fs::path& folder, const Entry& entry) {
+  const fs::path path = folder / entry.path;
   fs::create_directories(path.parent_path());
   switch (entry.kind) {
-    case Entry::Kind::directory:
+    case Entry::Kind::folder:
       fs::create_directories(path);
       break;
     case Entry::Kind::symbolicLink:
@@ -102,11 +102,11 @@ std::string readFile(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// Everything below a directory, by its relative path.
-std::map<std::string, std::string> listFiles(const fs::path& directory) {
+/// Everything below a folder, by its relative path.
+std::map<std::string, std::string> listFiles(const fs::path& folder) {
   std::map<std::string, std::string> files;
-  for (const auto& entry : fs::recursive_directory_iterator(directory)) {
-    const std::string name = entry.path().lexically_relative(directory).string();
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    const std::string name = entry.path().lexically_relative(folder).string();
     if (entry.is_symlink()) {
       files[name] = "link to " + fs::read_symlink(entry.path()).string();
     } else if (entry.is_directory()) {
@@ -118,12 +118,12 @@ std::map<std::string, std::string> listFiles(const fs::path& directory) {
   return files;
 }
 
-/// The modes of all files below a directory.
-std::map<std::string, fs::perms> listModes(const fs::path& directory) {
+/// The modes of all files below a folder.
+std::map<std::string, fs::perms> listModes(const fs::path& folder) {
   std::map<std::string, fs::perms> modes;
-  for (const auto& entry : fs::recursive_directory_iterator(directory)) {
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
     if (!entry.is_symlink() && !entry.is_directory()) {
-      modes[entry.path().lexically_relative(directory).string()] = entry.status().permissions();
+      modes[entry.path().lexically_relative(folder).string()] = entry.status().permissions();
     }
   }
   return modes;
@@ -136,14 +136,14 @@ int openOutput(bool closed, bool full, const CapturedStream& stream) {
   return full ? open("/dev/full", O_WRONLY) : dup(stream.descriptor());
 }
 
-void giveTo(unsigned user, const fs::path& directory) {
-  for (const auto& entry : fs::recursive_directory_iterator(directory)) {
+void giveTo(unsigned user, const fs::path& folder) {
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
     if (lchown(entry.path().c_str(), user, user) != 0) {
       throw std::runtime_error("cannot give away " + entry.path().string());
     }
   }
-  if (chown(directory.c_str(), user, user) != 0) {
-    throw std::runtime_error("cannot give away the working directory");
+  if (chown(folder.c_str(), user, user) != 0) {
+    throw std::runtime_error("cannot give away the working folder");
   }
 }
 
@@ -155,9 +155,9 @@ const char* programPath() {
 }
 
 /// Runs in the child process, and becomes the program.
-[[noreturn]] void execute(const std::vector<std::string>& arguments, const fs::path& directory, int output, int errors,
+[[noreturn]] void execute(const std::vector<std::string>& arguments, const fs::path& folder, int output, int errors,
                           bool dropPrivileges) {
-  // Opened before the privileges are dropped, because other users may have no access to the build directory. Not closed
+  // Opened before the privileges are dropped, because other users may have no access to the build folder. Not closed
   // by exec, because the interpreter of a script opens it again.
   const int program = open(programPath(), O_RDONLY);
   std::vector<char*> argumentVector;
@@ -176,7 +176,7 @@ const char* programPath() {
     dup2(output, STDOUT_FILENO);
   }
   dup2(errors, STDERR_FILENO);
-  if (chdir(directory.c_str()) == 0 &&
+  if (chdir(folder.c_str()) == 0 &&
       (!dropPrivileges || (setgid(kUnprivilegedUser) == 0 && setuid(kUnprivilegedUser) == 0))) {
     fexecve(program, argumentVector.data(), environ);
   }
@@ -186,25 +186,25 @@ const char* programPath() {
 }  // namespace
 
 void ToolCall::check() const {
-  const WorkingDirectory directory;
+  const WorkingFolder folder;
   const CapturedStream output;
   const CapturedStream errors;
-  // Directories last, because their modes may prevent the creation of files.
-  for (const bool directories : {false, true}) {
+  // Folders last, because their modes may prevent the creation of files.
+  for (const bool folders : {false, true}) {
     for (const Entry& entry : before_) {
-      if ((entry.kind == Entry::Kind::directory) == directories) {
-        writeEntry(directory.path(), entry);
+      if ((entry.kind == Entry::Kind::folder) == folders) {
+        writeEntry(folder.path(), entry);
       }
     }
   }
-  std::map<std::string, std::string> expectedFiles = listFiles(directory.path());
+  std::map<std::string, std::string> expectedFiles = listFiles(folder.path());
   for (const Entry& entry : changed_) {
     expectedFiles[entry.path] = entry.content;
   }
-  const std::map<std::string, fs::perms> modesBefore = listModes(directory.path());
+  const std::map<std::string, fs::perms> modesBefore = listModes(folder.path());
   const bool dropPrivileges = unprivileged_ && geteuid() == 0;
   if (dropPrivileges) {
-    giveTo(kUnprivilegedUser, directory.path());
+    giveTo(kUnprivilegedUser, folder.path());
   }
 
   const int outputDescriptor = openOutput(outputPlace_ == Output::closed, outputPlace_ == Output::full, output);
@@ -212,7 +212,7 @@ void ToolCall::check() const {
   const pid_t child = fork();
   ASSERT_GE(child, 0);
   if (child == 0) {
-    execute(arguments_, directory.path(), outputDescriptor, errorDescriptor, dropPrivileges);
+    execute(arguments_, folder.path(), outputDescriptor, errorDescriptor, dropPrivileges);
   }
   if (outputDescriptor >= 0) {
     close(outputDescriptor);
@@ -232,8 +232,8 @@ void ToolCall::check() const {
     EXPECT_EQ(WEXITSTATUS(status), status_) << "exit status";
     EXPECT_EQ(errors.content(), errors_) << "standard error";
   }
-  EXPECT_EQ(listFiles(directory.path()), expectedFiles) << "files after the call";
-  std::map<std::string, fs::perms> modesAfter = listModes(directory.path());
+  EXPECT_EQ(listFiles(folder.path()), expectedFiles) << "files after the call";
+  std::map<std::string, fs::perms> modesAfter = listModes(folder.path());
   for (const auto& [path, mode] : modesBefore) {
     EXPECT_EQ(modesAfter[path], mode) << "mode of " << path;
   }

@@ -63,8 +63,8 @@ std::vector<ToolCall> loads() {
           .given("f.json", "{nothing")
           .leaves("f.json", "{}"),
 
-      // A directory can be opened but not read.
-      loading("directory", "--file d", cannotParse("d")).givenDirectory("d"),
+      // A folder can be opened but not read.
+      loading("folder", "--file d", cannotParse("d")).givenFolder("d"),
 
       // The path is reported as it was typed.
       loading("path_of_the_same_file", "-f .//./f.json", cannotParse(".//./f.json")).given("f.json", "{"),
@@ -82,12 +82,12 @@ std::vector<ToolCall> merges() {
       loading("link_without_its_target", "-af link.json", cannotOpen("link.json"))
           .givenSymbolicLink("link.json", "none.json"),
       loading("unreadable_file", "-af f.json", cannotOpen("f.json")).given("f.json", "{}", 0000).withoutPrivileges(),
-      loading("directory", "-af d", cannotParse("d")).givenDirectory("d"),
+      loading("folder", "-af d", cannotParse("d")).givenFolder("d"),
       loading("text_after_the_value", "-af s.json", cannotParse("s.json")).given("s.json", R"({"a":1} x)"),
       loading("byte_order_mark", "-af s.json", cannotParse("s.json")).given("s.json", "\xef\xbb\xbf{\"a\":1}"),
       loading("nul_after_the_value", "-af s.json", cannotParse("s.json")).given("s.json", std::string("{}\0", 3)),
 
-      // The document is unchanged, except that a value at the path of a merge becomes an object, if it is not one.
+      // The document is unchanged, except that a value at the path of a merge becomes an empty object if it is none.
       changed("missing_file_at_each_type", R"({"a":"s","b":[1],"c":{"d":1}})",
               "-af s.json -afat a s.json -afat b s.json -afat c s.json -afat new.key s.json",
               R"({"a":{},"b":{},"c":{"d":1},"new":{"key":{}}})")
@@ -111,17 +111,17 @@ std::vector<ToolCall> merges() {
 
 std::vector<ToolCall> saves() {
   return {
-      notSaved("missing_directory", "no such/100%d.json"),
-      notSaved("missing_directory_from_the_root", "/kovalt-no-such-directory/f.json"),
-      notSaved("home_directory_is_not_expanded", "~/f.json"),
+      notSaved("missing_folder", "no such/100%d.json"),
+      notSaved("missing_folder_from_the_root", "/kovalt-no-such-folder/f.json"),
+      notSaved("home_folder_is_not_expanded", "~/f.json"),
       notSaved("variable_is_not_expanded", "$HOME/f.json"),
       notSaved("longer_name_than_the_file_system_has", std::string(256, 'n')),
-      notSaved("file_in_place_of_a_directory", "f.json/f.json").given("f.json", "{}"),
+      notSaved("file_in_place_of_a_folder", "f.json/f.json").given("f.json", "{}"),
       notSaved("path_of_a_file_with_a_slash_at_its_end", "f.json/").given("f.json", "{}"),
       notSaved("link_to_itself", "link.json").givenSymbolicLink("link.json", "link.json"),
-      notSaved("directory", "d").givenDirectory("d").reports(cannotParse("d") + cannotWrite("d")),
-      notSaved("working_directory", ".").reports(cannotParse(".") + cannotWrite(".")),
-      notSaved("new_file_in_a_read_only_directory", "d/f.json").givenDirectory("d", 0555).withoutPrivileges(),
+      notSaved("folder", "d").givenFolder("d").reports(cannotParse("d") + cannotWrite("d")),
+      notSaved("working_folder", ".").reports(cannotParse(".") + cannotWrite(".")),
+      notSaved("new_file_in_a_read_only_folder", "d/f.json").givenFolder("d", 0555).withoutPrivileges(),
       notSaved("read_only_file", "f.json").given("f.json", "{}", 0444).withoutPrivileges(),
       notSaved("link_to_a_read_only_file", "link.json")
           .given("f.json", "{}", 0444)
@@ -139,7 +139,7 @@ std::vector<ToolCall> saves() {
           .call("-f no/such/f.json -rm a.b -r k")
           .reports(cannotWrite("no/such/f.json") + readError("k"))
           .exits(1),
-      ToolCall("missing_directory_without_a_change").call("-f no/such/f.json").printsLine("{}"),
+      ToolCall("missing_folder_without_a_change").call("-f no/such/f.json").printsLine("{}"),
       ToolCall("read_only_file_without_a_change")
           .given("f.json", "7", 0444)
           .withoutPrivileges()

@@ -32,19 +32,17 @@ std::vector<ToolCall> names() {
 
 std::vector<ToolCall> paths() {
   return {
-      edited("current_directory", "./f.json", "f.json").given("f.json", "7"),
-      edited("directories", "sub/deeper one/f.json", "sub/deeper one/f.json").given("sub/deeper one/f.json", "7"),
-      edited("parent_directory", "sub/../f.json", "f.json").given("f.json", "7").givenDirectory("sub"),
+      edited("current_folder", "./f.json", "f.json").given("f.json", "7"),
+      edited("folders", "sub/deeper one/f.json", "sub/deeper one/f.json").given("sub/deeper one/f.json", "7"),
+      edited("parent_folder", "sub/../f.json", "f.json").given("f.json", "7").givenFolder("sub"),
       edited("two_slashes", "sub//f.json", "sub/f.json").given("sub/f.json", "7"),
-      edited("new_file_in_a_directory", "sub/f.json", "sub/f.json").givenDirectory("sub"),
+      edited("new_file_in_a_folder", "sub/f.json", "sub/f.json").givenFolder("sub"),
       edited("link", "link.json", "f.json").given("f.json", "7").givenSymbolicLink("link.json", "f.json"),
       edited("link_to_a_link", "first", "f.json")
           .given("f.json", "7")
           .givenSymbolicLink("second", "f.json")
           .givenSymbolicLink("first", "second"),
-      edited("link_to_a_directory", "link/f.json", "sub/f.json")
-          .given("sub/f.json", "7")
-          .givenSymbolicLink("link", "sub"),
+      edited("link_to_a_folder", "link/f.json", "sub/f.json").given("sub/f.json", "7").givenSymbolicLink("link", "sub"),
       edited("link_to_a_missing_file_creates_it", "link.json", "f.json").givenSymbolicLink("link.json", "f.json"),
       ToolCall("link_to_a_displayed_file")
           .given("sub/f.json", "7")
@@ -78,9 +76,9 @@ std::vector<ToolCall> modes() {
   return {
       edited("private_file", "f.json", "f.json").given("f.json", "7", 0600),
       edited("executable_file", "f.json", "f.json").given("f.json", "7", 0755),
-      edited("file_in_a_read_only_directory", "d/f.json", "d/f.json")
+      edited("file_in_a_read_only_folder", "d/f.json", "d/f.json")
           .given("d/f.json", "7", 0666)
-          .givenDirectory("d", 0555)
+          .givenFolder("d", 0555)
           .withoutPrivileges(),
       ToolCall("read_only_file").given("f.json", "7", 0444).withoutPrivileges().call("-f f.json").printsLine("7"),
   };

@@ -9,8 +9,8 @@ ToolCall& ToolCall::given(std::string_view path, std::string_view content, unsig
   return *this;
 }
 
-ToolCall& ToolCall::givenDirectory(std::string_view path, unsigned mode) {
-  before_.push_back({std::string(path), Entry::Kind::directory, "", mode});
+ToolCall& ToolCall::givenFolder(std::string_view path, unsigned mode) {
+  before_.push_back({std::string(path), Entry::Kind::folder, "", mode});
   return *this;
 }
 

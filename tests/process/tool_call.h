@@ -10,9 +10,9 @@
 
 namespace kovalt::test {
 
-/// A file, directory or symbolic link in the working directory of a call.
+/// A file, folder or symbolic link in the working folder of a call.
 struct Entry {
-  enum class Kind { file, directory, symbolicLink };
+  enum class Kind { file, folder, symbolicLink };
 
   std::string path;
   Kind kind = Kind::file;
@@ -30,9 +30,9 @@ class ToolCall {
   /// `name` says what the row checks, in letters, digits and underscores.
   explicit ToolCall(std::string_view name) : name_(name) {}
 
-  /// Creates a file in the fresh working directory of the call, and the directories on its path.
+  /// Creates a file in the fresh working folder of the call, and the folders on its path.
   ToolCall& given(std::string_view path, std::string_view content, unsigned mode = 0644);
-  ToolCall& givenDirectory(std::string_view path, unsigned mode = 0755);
+  ToolCall& givenFolder(std::string_view path, unsigned mode = 0755);
   ToolCall& givenSymbolicLink(std::string_view path, std::string_view target);
 
   /// The arguments, without the program's name, as one text that is split at spaces. An argument in single quotes may
@@ -65,7 +65,7 @@ class ToolCall {
 
   [[nodiscard]] const std::string& name() const { return name_; }
 
-  /// Runs the call in a fresh directory and compares everything that it printed and wrote. Failures are reported to
+  /// Runs the call in a fresh folder and compares everything that it printed and wrote. Failures are reported to
   /// GoogleTest.
   void check() const;
 
