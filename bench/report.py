@@ -20,9 +20,11 @@ TERMS = """\
 - **Memory**: the peak resident memory of the process. **MB**: a million bytes.
 - **Exponent**: how a cost grows with the size of the input; 1 is linear, 2 is quadratic. Instructions are compared
   between the first and second size, processor time between the second and third.
-- **Instructions**: executed in user mode, counted by callgrind in an empty environment. The counts are repeatable.
+- **Instructions**: executed in user mode, counted by callgrind in an environment with only PATH. The counts are
+  repeatable.
 - **Times** are medians of several rounds, in which the programs take turns. A ratio is the median of the ratios of the
-  rounds. All answers are compared before anything is timed, except those of `cat`, and of gron and yq on files of 5 MB.
+  rounds. The answers of competing programs are compared before their comparison is timed, except those of gron and yq
+  on files of 5 MB.
 - **Held** and **missed**: whether Kovalt stays within a limit that it has to meet."""
 
 
@@ -104,7 +106,7 @@ def growth_table(growth, bounds):
 def summary(data):
     bounds = data["bounds"]
     missed = [bound for bound in bounds if not bound["held"]]
-    lines = [f"Limits that Kovalt has to meet: {len(bounds)}, missed: {len(missed)}{':' if missed else '.'}"]
+    lines = [f"Kovalt has to meet {len(bounds)} limits and misses {f'{len(missed)}:' if missed else 'none.'}"]
     lines += ["", *[f"- {bound_text(bound)}" for bound in missed]] if missed else []
     ahead = [f"- {comparison['group']}, {comparison['work']}: {ahead_text(row['program'], row[times], what)}"
              for comparison in data["comparisons"] for row in comparison["rows"]
