@@ -104,7 +104,7 @@ class Check:
         }
         start_up = {
             "bash": [". /usr/share/bash-completion/bash_completion"],
-            "zsh": [f"fpath=({prefix}/share/zsh/site-functions $fpath)", "autoload -U compinit", "compinit -u -D"],
+            "zsh": [f"fpath=({prefix}/share/zsh/site-functions $fpath)", "autoload -U compinit", "compinit -u"],
             "fish": [],
         }[shell]
         self.open = lambda: InteractiveShell(shell, folder / "home", self.folder, environment, [*start_up, *settings])

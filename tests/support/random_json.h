@@ -3,9 +3,10 @@
 // Random documents with duplicate names and values of unexpected types, and key paths that lead into them.
 
 #include <cstddef>
+#include <initializer_list>
 #include <random>
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace kovalt::test {
 
@@ -14,7 +15,9 @@ class RandomJson {
  public:
   std::size_t below(std::size_t limit) { return random_() % limit; }
 
-  std::string pick(const std::vector<std::string>& texts) { return texts[below(texts.size())]; }
+  std::string pick(std::initializer_list<std::string_view> texts) {
+    return std::string(texts.begin()[below(texts.size())]);
+  }
 
   /// A JSON text of at most `depth` + 1 nested containers.
   std::string value(int depth) {
