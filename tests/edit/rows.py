@@ -262,7 +262,7 @@ SURROUNDINGS = [
 ]
 
 # The tool kills the script, or its process group and so itself.
-CALL = '"$(ps -o pgid= $$ | tr -d " ")"'
+CALL = '"$(cut -d " " -f 5 /proc/$$/stat)"'
 EARLY = ["readlink", "flock", "stat"]  # No signal is trapped yet.
 
 
