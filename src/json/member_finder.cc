@@ -1,7 +1,6 @@
 #include "json/member_finder.h"
 
 #include <cstddef>
-#include <limits>
 #include <utility>
 
 #include "json/contract.h"
@@ -11,7 +10,7 @@ namespace {
 
 using rapidjson::SizeType;
 
-constexpr SizeType kNone = std::numeric_limits<SizeType>::max();
+constexpr SizeType kNone = static_cast<SizeType>(-1);
 
 const Value::Member* membersOf(const Value& object) { return object.MemberBegin().operator->(); }
 
@@ -90,6 +89,7 @@ SizeType MemberFinder::positionOf(const Value& object, std::string_view name) {
 }
 
 SizeType MemberFinder::Index::find(const Value& object, std::string_view name, std::uint32_t hash) const {
+  require(size() > 0);
   SizeType position = chains_[hash % chains_.size()];
   while (position != kNone && !(places_[position].hash == hash && nameAt(object, position) == name)) {
     position = places_[position].next;

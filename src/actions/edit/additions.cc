@@ -31,8 +31,7 @@ std::optional<bool> booleanFromWord(std::string_view word) {
 /// Reports that a word or a list of words is not accepted.
 void reportRejectedBoolean(std::string_view rejected) {
   std::string message = "Accepted values for --addBoolean[Array] are true, false, 0 or 1 only, ";
-  message.append(rejected).append(" rejected.");
-  reportLine(message);
+  reportLine(message.append(rejected).append(" rejected."));
 }
 
 /// Replaces `target` by an array with the result of `makeElement` for each value. Returns false for a null target.

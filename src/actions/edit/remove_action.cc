@@ -21,13 +21,10 @@ struct Walk {
 Walk walkToParent(const std::vector<std::string>& steps, Value& root, MemberFinder& members) {
   Walk walk = {{&root}, &root};
   for (auto step = steps.begin(); step + 1 != steps.end(); ++step) {
-    Value* member = members.find(*walk.parent, *step);
-    if (member != nullptr && member->IsObject()) {
-      walk.ancestors.push_back(member);
-      walk.parent = member;
-    } else {
-      walk.ancestors.push_back(nullptr);
-    }
+    Value* const member = members.find(*walk.parent, *step);
+    const bool isSkipped = member == nullptr || !member->IsObject();
+    walk.ancestors.push_back(isSkipped ? nullptr : member);
+    walk.parent = isSkipped ? walk.parent : member;
   }
   return walk;
 }

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "json/document.h"
 #include "json/standard_streams.h"
 #include "json/write/write_value.h"
 

@@ -68,8 +68,8 @@ class Validator : public TokenHandler<Validator> {
   bool skipByReader(Scanner& scanner) { return readByReader<rapidjson::kParseInsituFlag>(scanner); }
 };
 
-/// Adds what is parsed to a document that is being populated. Refuses numbers that are too large for a double, which
-/// RapidJSON's reader lets pass in some forms: they cannot be written.
+/// Adds what is parsed to a document that is being populated. Rejects numbers that are too large for a double, which
+/// RapidJSON's reader accepts in some forms: they cannot be written.
 class DocumentBuilder : public TokenHandler<DocumentBuilder> {
  public:
   DocumentBuilder(TokenReader& reader, Document& document) : TokenHandler(reader), document_(document) {}
@@ -87,7 +87,9 @@ class DocumentBuilder : public TokenHandler<DocumentBuilder> {
     outerCounts_.push_back(outerCount);
     return start(bracket);
   }
+  /// Called only inside a container for which `open` returned true.
   rapidjson::SizeType close(char bracket, rapidjson::SizeType count) {
+    require(!outerCounts_.empty());
     end(bracket, count);
     const rapidjson::SizeType outerCount = outerCounts_.back();
     outerCounts_.pop_back();

@@ -9,7 +9,7 @@ namespace kovalt {
 InputBuffer::InputBuffer(std::FILE* file) : file_(file) { fill(); }
 
 const char* InputBuffer::refill(const char* cursor) {
-  require(*cursor == '\0' && cursor < end_ + kLookAhead);
+  require(*cursor == '\0' && (cursor <= end_ || (holdsLastBytes() && cursor < end_ + kLookAhead)));
   if (cursor < end_) {
     return cursor;
   }

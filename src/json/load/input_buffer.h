@@ -14,8 +14,8 @@ namespace kovalt {
 ///
 /// DESCRIPTION. The cursor points to the next byte to read. It has one holder at a time: a scanner or a reader takes it
 /// from the buffer and returns it when it is destroyed. A cursor is ready when it points to a byte of the file or when
-/// the file ends there. A cursor that was moved over a token may have reached the end of the buffer instead: then a
-/// refill is pending, and what it points to means nothing until `refill` was called.
+/// the file ends there. After it was moved over a token, a refill is said to be pending: the cursor may have reached
+/// the end of the buffer, so a NUL byte there means nothing until `refill` was called.
 ///
 /// IMPLEMENTATION. The bytes are followed by `kLookAhead` NUL bytes, so that every run of characters of one kind ends
 /// at the end of the buffer without a check, and blocks may be read there. A NUL byte can also be a byte of the file;
@@ -42,9 +42,10 @@ class InputBuffer {
     cursor_ = cursor;
   }
 
-  /// Makes `cursor` ready. Requires that it points to a NUL byte, of the file or of the look-ahead. At the end of the
-  /// buffer, reads the next bytes and returns a cursor to the first of them; at the end of the file, returns the end,
-  /// where there is a NUL byte too; otherwise returns `cursor`.
+  /// Makes `cursor` ready. Requires that it points to a NUL byte: one of the file, the one at the end of the buffer,
+  /// or, if the file ends there, any of the look-ahead. At the end of the buffer, reads the next bytes and returns a
+  /// cursor to the first of them; at the end of the file, returns the end, where there is a NUL byte too; otherwise
+  /// returns `cursor`.
   const char* refill(const char* cursor);
 
   /// Returns the first place from `cursor` on that is not whitespace, across the ends of the buffer. A refill may be

@@ -18,8 +18,9 @@ bool loadDocument(const std::string& path, Document& document, bool reportOpenFa
 /// As `loadDocument`, but keeps only what `projection` says. The whole file is validated.
 bool loadProjected(const std::string& path, const Projection& projection, Document& document, bool reportOpenFailure);
 
-/// Parses the content of `file`, which stays open, into `document`, and keeps what `projection` says. Returns false,
-/// with `document` unchanged and nothing reported, if the content is not exactly one JSON value.
+/// Parses the content of `file` from its current position into `document`, and keeps what `projection` says. The file
+/// stays open. Returns false, with `document` unchanged and nothing reported, if the content is not exactly one JSON
+/// value.
 bool parseFile(std::FILE* file, const Projection& projection, Document& document);
 
 }  // namespace kovalt

@@ -26,7 +26,7 @@ class ContainerStack {
 
   /// Closes the innermost container. Requires that one is open.
   void close() {
-    require(used_ > kUnused);
+    require(used_ > kSkippedBits);
     --used_;
     innermost_ >>= 1;
     if (used_ % kWordSize == 0) {
@@ -36,20 +36,21 @@ class ContainerStack {
   }
 
   /// The bracket that closes the innermost container; NUL if none is open.
-  [[nodiscard]] char closingBracket() const { return used_ == kUnused ? '\0' : (innermost_ & 1) != 0 ? '}' : ']'; }
+  [[nodiscard]] char closingBracket() const { return used_ == kSkippedBits ? '\0' : (innermost_ & 1) != 0 ? '}' : ']'; }
 
  private:
   static constexpr std::size_t kWordSize = 64;
-  static constexpr std::size_t kUnused = 1;  ///< Of the first word, whose other 63 bits need no allocation.
+  /// Bits of the first word that are skipped. Counting them as used makes the first 63 containers need no allocation.
+  static constexpr std::size_t kSkippedBits = 1;
 
-  std::size_t used_ = kUnused;        ///< The number of bits in all words.
+  std::size_t used_ = kSkippedBits;   ///< The number of bits in all words.
   std::uint64_t innermost_ = 0;       ///< The innermost containers; the lowest bit is the innermost one.
   std::vector<std::uint64_t> outer_;  ///< The containers around them, in full words.
 };
 
-/// Parses the value at the cursor of `buffer`, which must be ready, and accepts what RapidJSON's reader accepts.
-/// Returns false if it is not JSON or `handler` refused it; the buffer must not be used any more then. On success a
-/// refill is pending at the cursor. The handler has these operations:
+/// Parses the value at the cursor of `buffer`, which must be ready, and accepts what RapidJSON's reader accepts. No
+/// whitespace may precede the value. Returns false if it is not JSON or `handler` rejected it; the buffer must not be
+/// used any more then. On success a refill is pending at the cursor. The handler has these operations:
 /// - `bool name(Scanner&)`, `bool string(Scanner&)`, `bool other(Scanner&)` consume a name, a string or another value,
 ///   and return false if it is not JSON.
 /// - `bool open(char bracket, SizeType outerCount)`: an array or object starts. `outerCount` is the number of elements

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "json/contract.h"
 #include "json/load/handlers.h"
 #include "json/load/parse_value.h"
 #include "json/load/projection.h"
@@ -53,7 +54,9 @@ class ProjectionBuilder : public TokenHandler<ProjectionBuilder> {
     return builder_.start(bracket);
   }
 
+  /// Called only inside a container for which `open` returned true.
   rapidjson::SizeType close(char bracket, rapidjson::SizeType /*count*/) {
+    require(!open_.empty());
     builder_.end(bracket, open_.back().kept);
     open_.pop_back();
     if (!open_.empty()) {
@@ -62,8 +65,9 @@ class ProjectionBuilder : public TokenHandler<ProjectionBuilder> {
     return 0;
   }
 
-  /// Decides whether the member with this name is kept.
+  /// Decides whether the member with this name is kept. Called only inside an object.
   bool String(const char* name, rapidjson::SizeType length, bool copy) {
+    require(!open_.empty());
     const OpenContainer& object = open_.back();
     next_ = projection_.member(object.place, {name, length});
     if (next_ && keptIn_[*next_] == object.number && !projection_.isOfMany(*next_)) {

@@ -14,7 +14,7 @@
 
 namespace kovalt {
 
-/// A cursor over a JSON text that peeks at, reads or skips one token.
+/// Peeks at, reads or skips the next token of a JSON text.
 ///
 /// DESCRIPTION. The scanner holds the cursor of a buffer. Each operation requires the cursor to be ready, unless it
 /// says that a refill may be pending, and leaves it ready, unless it says that a refill is pending: then only the
@@ -55,8 +55,8 @@ class Scanner {
     }
   }
 
-  /// Skips `separator` and the whitespace around it. A refill may be pending. If something else follows, skips only the
-  /// whitespace before it and returns false.
+  /// Skips `separator`, which must not be NUL or whitespace, and the whitespace around it. A refill may be pending. If
+  /// something else follows, skips only the whitespace before it and returns false.
   bool skipSeparator(char separator) {
     if (*next_ != separator) {
       refill();
@@ -154,6 +154,7 @@ class Scanner {
   /// A number with fewer characters and without an exponent is not too large for a double.
   static constexpr std::ptrdiff_t kShortestInfinity = 300;
 
+  /// As `readString`. `end` must be the first character after the opening quote that a string cannot contain unescaped.
   std::optional<std::string_view> readStringTo(const char* end) {
     if (*end != '"') {
       return std::nullopt;
@@ -183,7 +184,7 @@ class Scanner {
 
   InputBuffer& buffer_;
   const char* next_;
-  bool refillIsPending_ = false;  ///< Kept where contracts are checked.
+  bool refillIsPending_ = false;  ///< Maintained only where contracts are checked.
 };
 
 }  // namespace kovalt

@@ -12,9 +12,9 @@ namespace {
 
 using rapidjson::SizeType;
 
-constexpr SizeType kNowhere = static_cast<SizeType>(-1);
+constexpr SizeType kNone = static_cast<SizeType>(-1);
 
-SizeType firstOf(const std::set<SizeType>& positions) { return positions.empty() ? kNowhere : *positions.begin(); }
+SizeType firstOf(const std::set<SizeType>& positions) { return positions.empty() ? kNone : *positions.begin(); }
 
 /// The refValue of a selection. Numbers are compared by their text; a number with another value has another text, so
 /// only equal numbers are converted to text.
@@ -27,13 +27,12 @@ struct Wanted {
   }
 
   std::string text;
-  double number = std::strtod(text.c_str(), nullptr);  ///< Zero for a text that is not a number.
+  double number = std::strtod(text.c_str(), nullptr);  ///< Of the number at the start of `text`; zero if there is none.
 };
 
 const Value* reportNotFound(std::string_view refKey, std::string_view refValue, bool explainArgument) {
   std::string message = "Kovalt path not found with refKey=refValue \"";
-  message.append(refKey).append("=").append(refValue).append("\"");
-  reportLine(message);
+  reportLine(message.append(refKey).append("=").append(refValue).append("\""));
   if (explainArgument) {
     reportLine(
         "Error in path argument, when you use prop1.refKey=refValue.prop2, prop1 must be an array of objects, and "
@@ -60,7 +59,7 @@ const Value* ElementFinder::find(const Value* array, std::string_view refKey, st
 
   const Wanted wanted = {std::string(refValue)};
   const auto indexed = index.elementsWith.find(wanted.text);
-  SizeType match = indexed == index.elementsWith.end() ? kNowhere : firstOf(indexed->second);
+  SizeType match = indexed == index.elementsWith.end() ? kNone : firstOf(indexed->second);
   SizeType stop = firstOf(index.stops);
   bool hasBadItems = !index.badItems.empty();
   std::size_t comparisons = 0;
@@ -88,7 +87,7 @@ const Value* ElementFinder::find(const Value* array, std::string_view refKey, st
     index.grow(*array, refKey);
   }
   index.budget.earn(comparisons + std::min({index.size, match, stop}));
-  return match < stop ? &(*array)[match] : reportNotFound(refKey, refValue, stop != kNowhere || hasBadItems);
+  return match < stop ? &(*array)[match] : reportNotFound(refKey, refValue, stop != kNone || hasBadItems);
 }
 
 void ElementFinder::willChange(const Value& array, const Value& element, const std::string* name) {

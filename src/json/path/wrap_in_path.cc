@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "json/document.h"
-
 namespace kovalt {
 
 Value wrapInPath(const KeyPath& path, Value leaf, Allocator& allocator) {

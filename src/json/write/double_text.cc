@@ -38,9 +38,9 @@ struct Decimal {
 };
 
 /// Finds `decimal` for a value from 1e-7 to below 1e15 if a text of at most 15 digits, or one of 16 that begins with 1,
-/// reads back as it. Otherwise returns false.
+/// reads back as it. Otherwise returns false with `decimal` unchanged.
 bool findFewDigits(double value, Decimal& decimal) {
-  // 1233 / 4096 is log10(2): times the power, the value has 15 digits before the point, or 16 that begin with a 1.
+  // 1233 / 4096 is about log10(2), so `value * power` has 15 digits before the point, or 16 that begin with 1.
   const int places = 14 - ((rapidjson::internal::Double(value).Exponent() * 1233) >> 12);
   require(places >= 0 && static_cast<std::size_t>(places) < kPowersOfTen.size());
   const double power = kPowersOfTen[static_cast<std::size_t>(places)];
@@ -93,6 +93,7 @@ void findDigits(double value, Decimal& decimal) {
 }  // namespace
 
 char* writeDouble(double value, char* text) {
+  require(std::isfinite(value));
   if (std::signbit(value)) {
     *text++ = '-';
     value = -value;

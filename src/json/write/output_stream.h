@@ -38,6 +38,8 @@ class OutputStream {
   /// `file` must stay open while the stream is used.
   // cppcheck-suppress uninitMemberVar
   explicit OutputStream(std::FILE* file) : file_(file) {}
+  OutputStream(const OutputStream&) = delete;
+  OutputStream& operator=(const OutputStream&) = delete;
 
   /// Adds one character.
   void Put(char character) {
