@@ -30,7 +30,7 @@ void loadOrStartEmpty(const ToolContext& context, Document& document) {
   }
 }
 
-void applyEdits(const ToolContext& context, EditedDocument& document) {
+void applyAdditions(const ToolContext& context, EditedDocument& document) {
   for (const auto& action : context.editActions) {
     if (!applyAtPath(*action, document)) {
       Value chain = buildPathChain(*action, document);
@@ -54,10 +54,10 @@ bool run(const ToolContext& context) {
   Document document;
   loadOrStartEmpty(context, document);
   EditedDocument edited(document);
-  applyEdits(context, edited);
+  applyAdditions(context, edited);
   const bool allRemovalsOk = applyRemovals(context, edited);
 
-  // Any edit at all counts as a modification, even one that failed.
+  // Any addition at all counts as a modification, even one that failed.
   const bool modified = !context.editActions.empty() || allRemovalsOk;
   const bool saveNeeded = !context.filePath.empty() && modified;
   if (context.displayResult || (context.readActions.empty() && !saveNeeded)) {

@@ -20,7 +20,7 @@ class ReadAction : public KeyPath {
 
   /// Puts the compact text of the value, walked from `value`, into `text`, which must be empty. A string loses its
   /// outer quotes but keeps its escapes. Returns false with `text` still empty if there is no such value, which is
-  /// reported on standard error. `lookups` are shared by all reads from the same document.
+  /// reported on standard error. `lookups` may be shared by all reads from the same document.
   virtual bool execute(const Value& value, std::string& text, Lookups& lookups) const;
 
   /// Adds what `execute` looks at, walked from a value at `from`: the whole value at the end of the path, or only the
@@ -29,7 +29,7 @@ class ReadAction : public KeyPath {
 
  protected:
   /// If there are any, the read looks at nothing but these fields of each element of an array.
-  std::vector<std::unique_ptr<ReadAction>> elementFields;
+  std::vector<std::unique_ptr<ReadAction>> elementFields_;
 };
 
 }  // namespace kovalt
