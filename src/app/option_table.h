@@ -24,7 +24,7 @@ enum class ArgumentKind {
 /// What follows the first argument of an option.
 struct FurtherArguments {
   ArgumentKind kind = ArgumentKind::none;
-  bool isList = false;            ///< Whether any number may follow; otherwise exactly one, or none of kind `none`.
+  bool isList = false;  ///< Whether any number may follow; otherwise exactly one does, or none if `kind` is `none`.
   bool endsInSeparators = false;  ///< Whether the last value of the list contains the separators.
 };
 

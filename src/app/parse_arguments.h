@@ -20,8 +20,8 @@ bool parseArguments(ToolContext& context, int argumentCount, const char* const* 
 /// consumed.
 std::vector<std::string> collectValues(int& position, int argumentCount, const char* const* arguments);
 
-/// Splits `text` at every `separator`, as reading it line by line with that delimiter does: empty pieces are kept, but
-/// there is none after a trailing separator, and an empty text has no piece.
+/// Splits `text` at every `separator`, as `std::getline` with that delimiter does: empty pieces are kept, but there is
+/// none after a trailing separator, and an empty text has no piece.
 std::vector<std::string> splitAt(std::string_view text, char separator);
 
 }  // namespace kovalt

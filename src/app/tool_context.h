@@ -16,7 +16,7 @@ struct ToolContext {
   std::vector<std::unique_ptr<RemoveAction>> removeActions;
   std::vector<std::unique_ptr<ReadAction>> readActions;
   std::string filePath;        ///< The file to load and save; empty for none.
-  bool displayResult = false;  ///< Whether to display the document in any case.
+  bool displayResult = false;  ///< Whether to display the document even if the call saves or reads.
 };
 
 }  // namespace kovalt

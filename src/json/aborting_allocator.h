@@ -9,7 +9,7 @@
 namespace kovalt {
 
 /// Aborts the process when an allocation fails, because RapidJSON does not check. The operations are defined out of
-/// line, because they are called rarely and would keep RapidJSON's loops from being inlined.
+/// line, because they are called rarely and, if inlined, would keep RapidJSON's loops from being inlined.
 class AbortingAllocator : public rapidjson::CrtAllocator {
  public:
   void* Malloc(std::size_t size);

@@ -159,7 +159,7 @@ inline std::size_t copyUnescaped(const char* from, std::size_t size, char* to) {
   return copied;
 }
 
-/// Returns the first character from `text` on that is not unescaped. Requires that there is one, and that
+/// Returns the first character from `text` on that must be escaped. Requires that there is one, and that
 /// `Block::kSize` characters are readable from each position up to it.
 template <typename Block>
 const char* endOfUnescaped(const char* text) {

@@ -15,10 +15,11 @@
 namespace kovalt {
 
 static_assert(RAPIDJSON_MAJOR_VERSION == 1 && RAPIDJSON_MINOR_VERSION == 1 && RAPIDJSON_PATCH_VERSION == 0,
-              "the specialisations beside Kovalt's streams replace functions of RapidJSON 1.1.0");
+              "the specialisations next to Kovalt's streams replace functions of RapidJSON 1.1.0");
 
-/// The document of a run. Its memory pool allocates chunks of at least 65,536 bytes, never uses memory twice, and frees
-/// all chunks when the document is destroyed.
+/// The document of a run. Its memory pool allocates chunks of at least 65,536 bytes, and frees all chunks when the
+/// document is destroyed. Until then it never uses memory twice, so the address of the first element or member of an
+/// array or object never belongs to another one.
 using Document =
     rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<AbortingAllocator>, AbortingAllocator>;
 

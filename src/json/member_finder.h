@@ -23,9 +23,8 @@ const Value* findMember(const Value& value, std::string_view name);
 /// DESCRIPTION. The first member of a name is found, as a scan finds it. Between two calls, an object that was looked
 /// up may only get members by `append` and lose them by `remove`; values may change at will.
 ///
-/// IMPLEMENTATION. An index contains the members at the front of one object; the members after them are scanned. It
-/// belongs to an array of members, not to a value: a document's pool never uses memory twice, so no other object ever
-/// has the same array.
+/// IMPLEMENTATION. An index contains the members at the front of one object; the members after them are scanned. It is
+/// found by the address of the first member, not of the object, which may move.
 class MemberFinder {
  public:
   /// `hash` is for tests; by default its key is secret.
@@ -48,7 +47,7 @@ class MemberFinder {
    public:
     /// The number of members in the index.
     [[nodiscard]] rapidjson::SizeType size() const { return static_cast<rapidjson::SizeType>(places_.size()); }
-    /// The first member with that name; `size()` if the index has none.
+    /// The first member with that name; `size()` if the index has none. Requires that the index is not empty.
     [[nodiscard]] rapidjson::SizeType find(const Value& object, std::string_view name, std::uint32_t hash) const;
     /// Adds the member at position `size()`, whose name has that hash, to the index of an object with `count` members.
     void add(std::uint32_t hash, rapidjson::SizeType count);

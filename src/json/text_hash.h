@@ -12,8 +12,8 @@ namespace kovalt {
 /// which would make every lookup a scan.
 class TextHash {
  public:
-  /// Derives the key from addresses of the stack and of the code, which the system randomises. In a program that is not
-  /// position-independent, only that of the stack differs between calls.
+  /// Derives the key from its own address, on the stack or the heap, and from an address of the code, which the system
+  /// randomises. In a program that is not position-independent, the address of the code is always the same.
   TextHash();
 
   /// For tests.

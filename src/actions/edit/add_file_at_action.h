@@ -14,7 +14,7 @@ class AddFileAtAction : public EditAction {
 
   /// Merges the file into `target`, which first becomes an empty object if it is not an object. Returns false only for
   /// a null target. A file that cannot be opened or parsed is reported on standard error and treated as an empty
-  /// object. If its root is not an object, or types clash, the process ends as `mergeValue` says.
+  /// object. If its root is not an object, or types clash, the process exits or aborts as `mergeValue` says.
   bool apply(Value* target, EditedDocument& document) const override;
 
  private:

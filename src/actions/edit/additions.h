@@ -29,7 +29,7 @@ class AddNumberAction : public EditAction {
   AddNumberAction(std::string_view keyPath, std::string_view value) : EditAction(keyPath), value_(value) {}
 
   /// Converts the value as std::stoi does. What that throws for a text without leading digits or out of range is not
-  /// caught anywhere: the call aborts before any output.
+  /// caught anywhere: the call aborts before anything is displayed, read or saved.
   bool apply(Value* target, EditedDocument& document) const override;
 
  private:

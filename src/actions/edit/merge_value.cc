@@ -9,8 +9,8 @@
 namespace kovalt {
 namespace {
 
-/// Merges `member` into `target` and returns nullptr. If both have an object of that name, changes nothing and returns
-/// the existing one, so that the caller can descend.
+/// Merges `member` into `target` and returns nullptr. If `member` and the existing member are both objects, changes
+/// nothing and returns the existing one, so that the caller can descend.
 Value* mergeMember(Value& target, Value::Member& member, EditedDocument& document) {
   MemberFinder& members = document.lookups.members;
   Value* existing = members.find(target, textOf(member.name));

@@ -19,9 +19,9 @@ class RemoveAction : public KeyPath {
   /// empty. The last member of an object moves into the gap. Prints nothing.
   ///
   /// Returns whether it succeeded. A path without steps always does, and so does a path of several steps whose last is
-  /// missing; a path of a single missing step does not. Aborts the process if the path has a single step and the root
-  /// is not an object, and, with `EmptyParents::clear`, if a member was removed by a path that
-  /// skipped a step, one that does not name an object.
+  /// missing; a path of a single missing step does not. Aborts the process in two cases: the path has a single step and
+  /// the root is not an object; or, with `EmptyParents::clear`, the member was removed after a step was skipped because
+  /// it does not name an object.
   virtual bool execute(EditedDocument& document) const;
 
  private:

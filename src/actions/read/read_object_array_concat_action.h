@@ -20,14 +20,14 @@ std::string joined(const ConcatRecords& records);
 /// counted, and the records are sorted as bytes.
 class ReadObjectArrayConcatAction : public ReadAction {
  public:
-  /// `fields` are key paths inside an element. The k-th byte of `separators` follows the k-th field, and its last byte
-  /// all further ones; if it is empty, nothing is between the fields.
+  /// `fields` are key paths inside an element. The k-th byte of `separators` is put between the k-th field and the
+  /// next, and its last byte also between all further ones; if it is empty, nothing is between the fields.
   ReadObjectArrayConcatAction(std::string_view keyPath, const std::vector<std::string>& fields,
                               std::string_view separators);
 
-  /// Puts the records into `text`, separated by spaces, each with its count in parentheses if that is above 1. Returns
-  /// false with `text` still empty if the path names nothing, which is reported on standard error, or not an array,
-  /// which is not reported. A field that an element lacks is reported and reads as nothing.
+  /// Puts the records into `text`, in the form of `joined`. Returns false with `text` still empty if the path names
+  /// nothing, which is reported on standard error, or not an array, which is not reported. A field that an element
+  /// lacks is reported and reads as nothing.
   bool execute(const Value& value, std::string& text, Lookups& lookups) const override;
 
  private:

@@ -100,8 +100,7 @@ inline const char* appendDigits(const char* text, std::uint64_t& value) {
 
 /// Reads the number at `text` into `number` and returns its end. Returns nullptr, with `number` unspecified, for what
 /// `endOfNumber` leaves to RapidJSON's reader, and for numbers with more than 17 significant digits or more than 19
-/// digits including leading zeros.
-/// Requires a NUL byte after the text and eight readable characters from there on.
+/// digits including leading zeros. Requires a NUL byte after the text and eight readable characters from there on.
 inline const char* readNumber(const char* text, Number& number) {
   constexpr std::ptrdiff_t kMostDigits = 19;  // More of them could overflow.
   std::uint64_t digits = 0;

@@ -21,7 +21,8 @@ namespace kovalt {
 /// every walk checks the kind: an array or an object without content, or null for everything else.
 class Projection {
  public:
-  /// A place that walks reach, of the projection that returned it. All elements of an array are at the same place.
+  /// A place that walks reach. Valid only for the projection that returned it. All elements of an array are at the same
+  /// place.
   using Place = std::size_t;
 
   /// The place of the root.
@@ -60,7 +61,7 @@ class Projection {
   /// Whether all of a value at `place` is kept.
   [[nodiscard]] bool keepsWhole(Place place) const { return places_[place].whole; }
 
-  /// Whether a value at `place` is kept that is not an array or object.
+  /// Whether a value at `place` that is not an array or object is kept.
   [[nodiscard]] bool keepsScalar(Place place) const { return places_[place].scalar || places_[place].whole; }
 
   /// Whether any member of an object at `place` is kept.

@@ -17,7 +17,8 @@ namespace kovalt {
 
 /// Returns the first object of `array` whose member `refKey` matches `refValue`, or nullptr. A boolean matches as the
 /// word true or false, a number as the text that it is written as, a string by its bytes up to the first NUL, an array
-/// by any of its numbers and strings.
+/// by any of its numbers and strings. The search ends without a match at the first element that is not an object or
+/// whose member is null or an object.
 ///
 /// Without a match, or if `array` is nullptr or not an array, prints the not-found message on standard error; and after
 /// it the advice on the path argument if an element was not an object, its member was null or an object, or an array
@@ -32,8 +33,8 @@ const Value* findObjectByRef(const Value* array, std::string_view refKey, std::s
 ///
 /// IMPLEMENTATION. An index belongs to one array of elements and one `refKey`. It contains the elements at the front of
 /// the array, under each text that selects them, except the elements that changed since they were added. Those, and the
-/// elements after the front, are compared one by one. It does not belong to the value: a document's pool never uses
-/// memory twice, so no other value ever has the same array.
+/// elements after the front, are compared one by one. An index is found by the address of the first element, not of the
+/// array value, which may move.
 class ElementFinder {
  public:
   const Value* find(const Value* array, std::string_view refKey, std::string_view refValue);

@@ -31,7 +31,8 @@ enum class Obstacle {
   stop,      ///< Not an object, or its member cannot select. The selection ends here.
 };
 
-/// Calls `visit` with each boolean, number or string of the member `refKey` that selects `element`.
+/// Calls `visit` with each boolean, number or string of the member `refKey` that selects `element`. Returns how the
+/// element affects a selection that matches none of them.
 template <typename Visit>
 Obstacle visitSelecting(const Value& element, std::string_view refKey, Visit visit) {
   if (!element.IsObject()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// Texts of values that are kept in memory.
+// Texts of values, collected in memory.
 
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>

@@ -13,12 +13,12 @@ namespace kovalt {
 /// per level. There are only these two forms, hence the plain Boolean. No end of line follows.
 std::string valueToText(const Value& value, bool pretty);
 
-/// Prints the text of `value` on standard output, indented by four spaces a level, and an end of line.
+/// Prints the text of `value` on standard output, indented by four spaces per level, and an end of line.
 void printValue(const Value& value);
 
 /// Replaces the content of the file at `path`, which is created if it is missing, by the text of `document`, indented
-/// by two spaces a level and without a final end of line. Returns false, after a report on standard error, only if the
-/// file cannot be opened for writing; later write errors are not noticed.
+/// by two spaces per level and without a final end of line. Returns false, after a report on standard error, only if
+/// the file cannot be opened for writing; later write errors are not noticed.
 bool writeDocument(const Document& document, const std::string& path);
 
 }  // namespace kovalt
