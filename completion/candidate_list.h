@@ -21,7 +21,7 @@ class CandidateList {
 
   [[nodiscard]] bool isCut() const { return cut_; }
 
-  /// The words, at most `kLongest` and the two dropped ones.
+  /// The words: at most `kLongest`, and the least and the greatest of the dropped ones.
   [[nodiscard]] std::vector<std::string> words() const;
 
  private:

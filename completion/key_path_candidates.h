@@ -16,8 +16,9 @@ namespace kovalt {
 /// in "." if more steps can follow. For an array with too many objects to list, the candidates are the keys to select
 /// by, and end in "=".
 ///
-/// Not offered: members and elements that no key path reaches (a "." in the name or value, an element after one that
-/// stops the selection, a second member of the same name), empty names, and text that a terminal cannot show.
+/// Not offered: members and elements that no key path reaches (a "." in the name or value, a "=" in the name where
+/// steps select, an element after one that stops the selection, a second member of the same name), empty names, and
+/// text that a terminal cannot show.
 CandidateList keyPathCandidates(const std::vector<const Value*>& roots, std::string_view word, KeyPathUse use);
 
 /// Returns the elements of the array that `keyPath` names, or nothing if it does not name an array.

@@ -1,6 +1,6 @@
 #pragma once
 
-// The parts of a document that its candidates for a key path depend on, so that a completion loads nothing else.
+// The parts of a document that the candidates for a key path depend on, so that a completion loads nothing else.
 // Mirrors key_path_candidates.h: whoever changes one must change the other.
 
 #include <string_view>

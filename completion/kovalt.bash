@@ -10,8 +10,8 @@ _kovalt_helper=${BASH_SOURCE[0]%/*}/@KOVALT_COMPLETE@
 # - `begun` if it is not empty as typed, `redirected` if it names the file of a redirection;
 # - `value` to its value, `quote` to the quote that it leaves open, `inside` to the text typed after that quote, and
 #   `escape` to a backslash at its end;
-# - `unclear` if bash could expand it together with the text that is inserted after it, or if it is or follows an expansion
-#   in which quotes have other rules (`lost`).
+# - `unclear` if bash could expand it together with the text that is inserted after it, or from the first expansion with
+#   its own quoting rules on, such as `$(`, which sets `lost`.
 # Runs nothing: it expands only a home folder and plain variables.
 _kovalt_read() {
   local rest=$1 char
@@ -148,8 +148,8 @@ _kovalt() {
     fi
   fi
 
-  # The line editor replaces no more than $2, which begins after the last quote, "=" or ":". It stays as it is typed. After
-  # a command such as sudo, $2 is too long if a quote is open.
+  # The line editor replaces no more than $2, which begins after the last quote, "=" or ":". Each reply must begin with
+  # that text as typed. After a command such as sudo, $2 is too long if a quote is open.
   [[ $quote ]] && typed=$inside || typed=$2
   typed=${typed%"$escape"}
   for word in "${candidates[@]}"; do
@@ -172,7 +172,7 @@ _kovalt() {
       start=${start%?}
       COMPREPLY+=("$start")
     fi
-    # The line is added only where the candidates are listed and it is not inserted.
+    # The note is added only where the candidates are listed, so that it is never inserted.
     [[ $kind != 'words cut' || $COMP_TYPE != @(33|63|64) ]] || COMPREPLY+=("$start (the list is cut)")
   fi
 } && complete -F _kovalt Kovalt kovalt kovalt-edit

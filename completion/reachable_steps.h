@@ -31,7 +31,8 @@ struct Selection {
 /// Walks an array and returns the selections that find its objects, one object at a time.
 class SelectionReader {
  public:
-  /// Restricts the selections to those whose key matches `typed`, the start of a step. `array` must outlive the reader.
+  /// Restricts the selections to those whose key matches `typed`, the start of a step. `array` and the characters of
+  /// `typed` must outlive the reader.
   SelectionReader(const Value& array, std::string_view typed);
 
   /// Returns the selections of the next object, or nothing at the end of the array or at an element that is not an
