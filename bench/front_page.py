@@ -19,7 +19,7 @@ BEGIN = "<!-- The figures come from bench/front_page.py. -->\n"
 END = "<!-- End of the figures. -->\n"
 #: The rows: the group and the work, the title on the front page, and whether memory is shown.
 ROWS = (
-    (start_up.GROUP, start_up.READ_WORK, "Read one key of 20 lines", False),
+    (start_up.GROUP, start_up.READ_WORK, "Read one key of a file of 20 lines", False),
     (start_up.GROUP, "ten edits and five reads", "Ten edits and five reads (jq: 15 calls)", False),
     (many_files.GROUP, many_files.WORK, "Edit 1,000 files, four at a time", False),
     (large_files.READ, large_files.title("records", 50), "Read the last key of 50 MB", True),

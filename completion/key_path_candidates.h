@@ -1,7 +1,7 @@
 #pragma once
 
-// The candidates for a key path, from a document. key_path_projection.h says which parts of the document this reads:
-// whoever changes one must change the other.
+// The candidates for a key path, from a document. key_path_projection.h loads the parts of the document that are read
+// here: change both or neither.
 
 #include <string_view>
 #include <vector>

@@ -10,8 +10,8 @@ _kovalt_helper=${BASH_SOURCE[0]%/*}/@KOVALT_COMPLETE@
 # - `begun` if it is not empty as typed, `redirected` if it names the file of a redirection;
 # - `value` to its value, `quote` to the quote that it leaves open, `inside` to the text typed after that quote, and
 #   `escape` to a backslash at its end;
-# - `unclear` if bash could expand it together with the text that is inserted after it, or from the first expansion with
-#   its own quoting rules on, such as `$(`, which sets `lost`.
+# - `unclear` if bash could expand it together with the text that is inserted after it. An expansion with its own
+#   quoting rules, such as `$(`, sets `lost`: this word and all later ones are then unclear.
 # Runs nothing: it expands only a home folder and plain variables.
 _kovalt_read() {
   local rest=$1 char

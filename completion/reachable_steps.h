@@ -16,7 +16,7 @@ namespace kovalt {
 /// What an option does with its key path.
 struct KeyPathUse {
   bool selects = true;      ///< False for removals, where a step with "=" is an ordinary member name.
-  bool namesArray = false;  ///< The path may end at an array, so an array is also offered without a step into it.
+  bool namesArray = false;  ///< For concatenations: arrays are also offered without a step into them.
 };
 
 /// Returns the members of `object` that a step can name. Of members with the same name, that is the first.

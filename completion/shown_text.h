@@ -4,8 +4,8 @@
 
 namespace kovalt {
 
-/// Whether a terminal shows `text` unchanged: it is valid UTF-8 without the control characters U+0000 to U+001F and
-/// U+007F to U+009F.
+/// Whether `text` is valid UTF-8 without the control characters U+0000 to U+001F and U+007F to U+009F, which a terminal
+/// could obey.
 bool canBeShown(std::string_view text);
 
 }  // namespace kovalt

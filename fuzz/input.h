@@ -15,7 +15,8 @@ inline constexpr const char* kSectionEnd = "\n%%\n";
 /// Returns the bytes of an input.
 std::string inputText(const std::uint8_t* data, std::size_t size);
 
-/// Removes the front of `text` up to and including `end`, and returns it without `end`. Without an `end`, that is all.
+/// Removes the front of `text` up to and including `end`, and returns it without `end`. If there is no `end`, removes
+/// and returns all of it.
 std::string takeUpTo(const std::string& end, std::string& text);
 
 /// Returns the lines of `text`. An empty text has none.

@@ -1,6 +1,6 @@
 #pragma once
 
-// The JSON types of the one document of a call, and the conversions of their strings.
+// The JSON types of the one document of a call, and conversions between their strings and std::string_view.
 
 #ifdef NDEBUG
 #error "Compile Kovalt without NDEBUG: RapidJSON's assertions are part of what it does"

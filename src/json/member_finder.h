@@ -51,7 +51,7 @@ class MemberFinder {
     [[nodiscard]] rapidjson::SizeType find(const Value& object, std::string_view name, std::uint32_t hash) const;
     /// Adds the member at position `size()`, whose name has that hash, to the index of an object with `count` members.
     void add(std::uint32_t hash, rapidjson::SizeType count);
-    /// Updates the index for a removal that moves the member at `last` to `position`.
+    /// Updates the index for a removal that moves the member at `last` to `position`, which must be in the index.
     void remove(rapidjson::SizeType position, rapidjson::SizeType last, std::uint32_t hashOfLast);
 
     IndexBudget budget;

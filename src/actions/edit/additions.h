@@ -36,7 +36,7 @@ class AddNumberAction : public EditAction {
   std::string value_;
 };
 
-/// Sets a boolean: true or 1, false or 0, in any case.
+/// Sets a boolean: true or 1, false or 0, in upper or lower case.
 class AddBooleanAction : public EditAction {
  public:
   AddBooleanAction(std::string_view keyPath, std::string_view value);

@@ -15,7 +15,7 @@ bool applyAtPath(const EditAction& action, EditedDocument& document) {
 
 Value buildPathChain(const EditAction& action, EditedDocument& document) {
   Value leaf;
-  // A value that is not accepted is reported, again if `applyAtPath` did; the leaf then stays null.
+  // A value that is not accepted is reported here even if `applyAtPath` has already reported it. The leaf stays null.
   action.apply(&leaf, document);
   return wrapInPath(action.keyPath(), std::move(leaf), document.allocator);
 }

@@ -6,8 +6,8 @@
 namespace kovalt {
 
 /// The document that the edits of a call change, with the pool of its values and the lookups that the edits share. The
-/// lookups stay correct: additions change the document only as `resolveExisting` permits; removals come later, use only
-/// `lookups.members`, and no walk follows them.
+/// lookups stay correct: additions change the document only as `resolveExisting` permits; removals come later and use
+/// only `lookups.members`; reads have lookups of their own.
 struct EditedDocument {
   /// `document` must outlive this object.
   explicit EditedDocument(Document& document) : root(document), allocator(document.GetAllocator()) {}

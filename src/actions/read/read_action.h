@@ -18,9 +18,9 @@ class ReadAction : public KeyPath {
  public:
   using KeyPath::KeyPath;
 
-  /// Puts the compact text of the value, walked from `value`, into `text`, which must be empty. A string loses its
-  /// outer quotes but keeps its escapes. Returns false with `text` still empty if there is no such value, which is
-  /// reported on standard error. `lookups` may be shared by all reads from the same document.
+  /// Walks the key path from `value` and puts the compact text of the value that it names into `text`, which must be
+  /// empty. A string loses its outer quotes but keeps its escapes. Returns false with `text` still empty if there is no
+  /// such value, which is reported on standard error. `lookups` may be shared by all reads from the same document.
   virtual bool execute(const Value& value, std::string& text, Lookups& lookups) const;
 
   /// Adds what `execute` looks at, walked from a value at `from`: the whole value at the end of the path, or only the

@@ -96,7 +96,8 @@ class DocumentBuilder : public TokenHandler<DocumentBuilder> {
     return outerCount;
   }
 
-  /// Starts an array or object, and ends it with the number of its elements or members.
+  /// Starts an array or object with its opening bracket. Ends it with its closing one and its number of elements or
+  /// members.
   bool start(char bracket) { return bracket == '{' ? document_.StartObject() : document_.StartArray(); }
   void end(char bracket, rapidjson::SizeType count) {
     bracket == '}' ? document_.EndObject(count) : document_.EndArray(count);

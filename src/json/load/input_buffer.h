@@ -12,10 +12,11 @@ namespace kovalt {
 
 /// Holds 8,192 bytes of a file at a time, and the cursor into them.
 ///
-/// DESCRIPTION. The cursor points to the next byte to read. It has one holder at a time: a scanner or a reader takes it
-/// from the buffer and returns it when it is destroyed. A cursor is ready when it points to a byte of the file or when
-/// the file ends there. After it was moved over a token, a refill is said to be pending: the cursor may have reached
-/// the end of the buffer, so a NUL byte there means nothing until `refill` was called.
+/// DESCRIPTION. The cursor points to the next byte to read. It has one holder at a time: a `Scanner` or `ReaderStream`
+/// takes it from the buffer and returns it when it is destroyed; a scanner can also lend it. A cursor is ready when it
+/// points to a byte of the file, or to the end of the file once a read has found that end. After it was moved over a
+/// token, a refill is said to be pending: the cursor may have reached the end of the buffer, so a NUL byte there means
+/// nothing until `refill` was called.
 ///
 /// IMPLEMENTATION. The bytes are followed by `kLookAhead` NUL bytes, so that every run of characters of one kind ends
 /// at the end of the buffer without a check, and blocks may be read there. A NUL byte can also be a byte of the file;
@@ -74,7 +75,7 @@ class InputBuffer {
   /// A read that does not fill the buffer has reached the end of the file or failed; nothing may be read after it.
   [[nodiscard]] bool holdsLastBytes() const { return end_ != bytes_ + kSize; }
 
-  // Not initialised, which would cost more than reading a small file. Aligned to a page, where the system copies
+  // Not initialised: that would cost more than reading a small file. Aligned to a page, where the system copies
   // fastest.
   alignas(4096) char bytes_[kSize + kLookAhead];
   std::FILE* file_;

@@ -31,7 +31,7 @@ inline const char* skipDigits(const char* text) {
 /// The digits at the front of a block of eight characters.
 struct DigitBlock {
   std::size_t count;
-  std::uint64_t value;  ///< Of the digits as a decimal number.
+  std::uint64_t value;  ///< The digits as a decimal number.
 };
 
 /// Reads the digits at the front of the eight characters at `block`, without a branch for their number.

@@ -50,7 +50,8 @@ class ContainerStack {
 
 /// Parses the value at the cursor of `buffer`, which must be ready, and accepts what RapidJSON's reader accepts. No
 /// whitespace may precede the value. Returns false if it is not JSON or `handler` rejected it; the buffer must not be
-/// used any more then. On success a refill is pending at the cursor. The handler has these operations:
+/// used any more then. On success a refill is pending at the cursor. The handler has these operations. Those with a
+/// scanner get it with the cursor ready, and may leave a refill pending.
 /// - `bool name(Scanner&)`, `bool string(Scanner&)`, `bool other(Scanner&)` consume a name, a string or another value,
 ///   and return false if it is not JSON.
 /// - `bool open(char bracket, SizeType outerCount)`: an array or object starts. `outerCount` is the number of elements

@@ -16,9 +16,9 @@ namespace kovalt {
 
 /// For each place of a document, which part of the values there is kept.
 ///
-/// Members that are not named are not kept, nor are elements that were not added. Of several members with the same name
-/// the first is kept. A value on the way that is not kept itself is replaced by an empty value of its kind, because
-/// every walk checks the kind: an array or an object without content, or null for everything else.
+/// Members and elements that were not added are not kept. Of several members with the same name the first is kept,
+/// except by `addMembers`, which keeps all. A value on the way that is not kept itself is replaced by an empty value of
+/// its kind, because every walk checks the kind: an array or an object without content, or null for everything else.
 class Projection {
  public:
   /// A place that walks reach. Valid only for the projection that returned it. All elements of an array are at the same

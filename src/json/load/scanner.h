@@ -18,9 +18,9 @@ namespace kovalt {
 ///
 /// DESCRIPTION. The scanner holds the cursor of a buffer. Each operation requires the cursor to be ready, unless it
 /// says that a refill may be pending, and leaves it ready, unless it says that a refill is pending: then only the
-/// operations that accept that may follow. An operation that fails leaves the cursor where it was if its comment says
-/// so; otherwise the text is not JSON, and the scanner must not be used any more. Texts that are returned are part of
-/// the buffer and valid until the next operation that leaves the cursor ready.
+/// operations that accept that may follow. The comment of an operation says where a failure leaves the cursor. If it
+/// does not, the text is not JSON after a failure, and the scanner must not be used any more. Texts that are returned
+/// are part of the buffer and valid until the next operation that leaves the cursor ready.
 ///
 /// IMPLEMENTATION. Tokens are recognised in the buffer alone, whose NUL bytes end every run of characters; a token that
 /// may continue after them is left to RapidJSON's reader. No function that is defined out of line gets the address of
@@ -114,7 +114,7 @@ class Scanner {
     requireReady();
     std::ptrdiff_t decimals = 0;
     const char* const end = endOfNumber(next_, skipDigits, decimals);
-    if (end == nullptr || end - next_ >= kShortestInfinity) {
+    if (end == nullptr || end - next_ >= kSurelyFinite) {
       return false;
     }
     moveTo(end);
@@ -137,8 +137,8 @@ class Scanner {
     return true;
   }
 
-  /// Calls `use` with the buffer, which holds the cursor meanwhile, so that another scanner or reader can take it.
-  /// Returns what `use` returns. A refill is then pending.
+  /// Calls `use` with the buffer, which holds the cursor meanwhile, so that another scanner or reader can take it. That
+  /// one must have returned it when `use` returns. Returns what `use` returns. A refill is then pending.
   template <typename Use>
   bool lendCursor(Use use) {
     requireReady();
@@ -152,7 +152,7 @@ class Scanner {
   static_assert(InputBuffer::kLookAhead >= CharacterBlock::kSize, "runs of characters are scanned in blocks");
 
   /// A number with fewer characters and without an exponent is not too large for a double.
-  static constexpr std::ptrdiff_t kShortestInfinity = 300;
+  static constexpr std::ptrdiff_t kSurelyFinite = 300;
 
   /// As `readString`. `end` must be the first character after the opening quote that a string cannot contain unescaped.
   std::optional<std::string_view> readStringTo(const char* end) {

@@ -27,7 +27,7 @@ struct Wanted {
   }
 
   std::string text;
-  double number = std::strtod(text.c_str(), nullptr);  ///< Of the number at the start of `text`; zero if there is none.
+  double number = std::strtod(text.c_str(), nullptr);  ///< The number at the start of `text`; zero if there is none.
 };
 
 const Value* reportNotFound(std::string_view refKey, std::string_view refValue, bool explainArgument) {
@@ -83,7 +83,7 @@ const Value* ElementFinder::find(const Value* array, std::string_view refKey, st
     compare(position);
   }
   if (isLarge && comparisons > 0) {
-    // Otherwise nothing was looked at that is not in the index.
+    // Something that is not in the index was compared, so a larger index may pay.
     index.grow(*array, refKey);
   }
   index.budget.earn(comparisons + std::min({index.size, match, stop}));

@@ -32,13 +32,13 @@ constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1
 
 /// A number above zero: its digits, without trailing zeros, times a power of ten.
 struct Decimal {
-  char* digits;  ///< In a buffer of the caller with room for `kLongestDouble` characters.
+  char* digits;  ///< In the caller's buffer, after the sign. There is room for `kLongestDouble` - 1 characters.
   int length;
   int exponent;
 };
 
-/// Finds `decimal` for a value from 1e-7 to below 1e15 if a text of at most 15 digits, or one of 16 that begins with 1,
-/// reads back as it. Otherwise returns false with `decimal` unchanged.
+/// Finds `decimal` for a value from 1e-7 to below 1e15 if a text of at most 15 digits reads back as it, and for some
+/// values that need 16 digits of which the first is 1. Otherwise returns false with `decimal` unchanged.
 bool findFewDigits(double value, Decimal& decimal) {
   // 1233 / 4096 is about log10(2), so `value * power` has 15 digits before the point, or 16 that begin with 1.
   const int places = 14 - ((rapidjson::internal::Double(value).Exponent() * 1233) >> 12);

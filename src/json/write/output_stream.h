@@ -21,9 +21,9 @@ namespace kovalt {
 
 /// An output stream of RapidJSON's kind that collects a text and writes it in pieces of 65,536 bytes.
 ///
-/// DESCRIPTION. Numbers, strings and starts of lines are added as a whole, where RapidJSON's own streams add them
-/// character by character. Write errors are not noticed. Nothing is written unless a piece is full or `Flush` is
-/// called.
+/// DESCRIPTION. Strings, starts of lines and most numbers are added as a whole, where RapidJSON's writers add them to
+/// other streams character by character. Write errors are not noticed. Nothing is written unless a piece is full or
+/// `Flush` is called.
 ///
 /// IMPLEMENTATION. Each operation makes room for `kRoom` characters before it adds any. It then adds at most that many,
 /// except for long strings, which fill the rest of the buffer. What is beyond a full piece moves to the front of the
@@ -134,7 +134,7 @@ class OutputStream {
 
   std::FILE* file_;
   char* end_ = buffer_;
-  // Not initialised, which would cost more than writing a small text.
+  // Not initialised: that would cost more than writing a small text.
   char buffer_[kPiece + kRoom];
 };
 

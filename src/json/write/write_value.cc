@@ -82,7 +82,7 @@ void writeText(const Value& value, unsigned indent, Stream& stream) {
     writer.SetIndent(' ', indent);
     writeNested(value, writer);
   }
-  // The writers flush after an array or object, but not after a scalar root.
+  // The pretty writer flushes after an array or object, but not after a scalar root.
   stream.Flush();
 }
 
