@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <string>
 #include <vector>
@@ -51,9 +52,7 @@ std::vector<std::string> optionLinesOfManual() {
 
 TEST(ManualOptions, AreThoseOfTheTable) {
   std::vector<std::string> expected;
-  for (const Option& option : kOptionTable) {
-    expected.push_back(lineInManual(option));
-  }
+  std::transform(kOptionTable.begin(), kOptionTable.end(), std::back_inserter(expected), lineInManual);
   std::vector<std::string> listed = optionLinesOfManual();
   std::sort(expected.begin(), expected.end());
   std::sort(listed.begin(), listed.end());

@@ -19,12 +19,12 @@ bool ReadAction::execute(const Value& value, std::string& text, Lookups& lookups
 
 void ReadAction::addTo(Projection& projection, Projection::Place from) const {
   const Projection::Place end = projection.addWalk(*this, from);
-  if (elementFields_.empty()) {
+  if (elementFields.empty()) {
     projection.addWhole(end);
     return;
   }
   const Projection::Place element = projection.addElements(end);
-  for (const auto& field : elementFields_) {
+  for (const auto& field : elementFields) {
     field->addTo(projection, element);
   }
 }

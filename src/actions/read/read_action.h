@@ -29,7 +29,7 @@ class ReadAction : public KeyPath {
 
  protected:
   /// If there are any, the read looks at nothing but these fields of each element of an array.
-  std::vector<std::unique_ptr<ReadAction>> elementFields_;
+  std::vector<std::unique_ptr<ReadAction>> elementFields;
 };
 
 }  // namespace kovalt

@@ -20,7 +20,7 @@ ReadObjectArrayConcatAction::ReadObjectArrayConcatAction(std::string_view keyPat
                                                          std::string_view separators)
     : ReadAction(keyPath), separators_(separators) {
   for (const std::string& field : fields) {
-    elementFields_.push_back(std::make_unique<ReadAction>(field));
+    elementFields.push_back(std::make_unique<ReadAction>(field));
   }
 }
 
@@ -41,9 +41,9 @@ std::string ReadObjectArrayConcatAction::readRecord(const Value& element) const 
   // New lookups for each element, because an element is searched only once for each field.
   Lookups lookups;
   std::string record;
-  for (std::size_t i = 0; i < elementFields_.size(); ++i) {
+  for (std::size_t i = 0; i < elementFields.size(); ++i) {
     std::string field;
-    elementFields_[i]->execute(element, field, lookups);
+    elementFields[i]->execute(element, field, lookups);
     if (i > 0 && !separators_.empty()) {
       record += separators_[std::min(i, separators_.size()) - 1];
     }
