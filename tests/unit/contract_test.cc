@@ -4,13 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdio>
 #include <functional>
+#include <limits>
 #include <string>
 
 #include "json/load/parse_value.h"
 #include "json/load/reader_stream.h"
 #include "json/load/scanner.h"
+#include "json/write/double_text.h"
 #include "json/write/output_stream.h"
 #include "support/row.h"
 
@@ -64,6 +67,12 @@ std::vector<ContractRow> contractRows() {
          OutputStream stream(stdout);
          stream.Push(OutputStream::kShort + 1);
        }},
+      {{"infinity_as_a_number"},
+       [](InputBuffer& /*buffer*/) {
+         std::array<char, kLongestDouble> text{};
+         writeDouble(std::numeric_limits<double>::infinity(), text.data());
+       }},
+      {{"refill_at_a_character"}, [](InputBuffer& buffer) { buffer.refill(buffer.takeCursor()); }},
   };
 }
 
