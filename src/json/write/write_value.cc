@@ -1,6 +1,6 @@
 #include "json/write/write_value.h"
 
-#include <cstdio>
+#include <cstddef>
 #include <vector>
 
 #include "json/standard_streams.h"
@@ -56,7 +56,7 @@ void writeNested(const Value& root, Writer& writer) {
     }
     OpenContainer& container = open.back();
     if (container.isObject) {
-      const Value::Member& member = *(container.value->MemberBegin() + container.written);
+      const Value::Member& member = *(container.value->MemberBegin() + static_cast<std::ptrdiff_t>(container.written));
       writer.Key(member.name.GetString(), member.name.GetStringLength());
       next = &member.value;
     } else {
