@@ -19,7 +19,7 @@ namespace {
 
 /// The count of random numbers of each exponent and of each count of digits. Sanitizers make each of them slow.
 #ifndef __SANITIZE_ADDRESS__
-constexpr int kTries = 200;
+constexpr int kTries = 600;
 #else
 constexpr int kTries = 50;
 #endif
