@@ -1,5 +1,6 @@
 #include "completion/key_path_projection.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "completion/starts_with.h"
@@ -23,18 +24,20 @@ void addNextSteps(Projection& projection, Place place, KeyPathUse use) {
 void addCandidates(Projection& projection, Place from, std::string_view word, KeyPathUse use) {
   const KeyPath path(word);
   const std::string_view typed = word.substr(word.rfind(KeyPath::kStepSeparator) + 1);
+  const std::size_t parents = std::max<std::size_t>(path.steps().size(), 1) - 1;
   Place place = from;
-  std::optional<SelectionStep> selection;
-  for (std::size_t i = 0; i + 1 < path.steps().size(); ++i) {
+  for (std::size_t i = 0; i < parents; ++i) {
     const std::string_view step = path.steps()[i];
-    selection = use.selects ? asSelectionStep(step) : std::nullopt;
     place = use.selects ? projection.addStep(step, place) : projection.addMember(place, step);
   }
 
   addNextSteps(projection, projection.addMembers(place, typed), use);
-  // The selection added its key by name, so that member is not among those above.
-  if (selection && startsWith(selection->refKey, typed)) {
-    addNextSteps(projection, projection.addMember(place, selection->refKey), use);
+  if (use.selects && parents > 0) {
+    // The selection added its key by name, so that member is not among those above.
+    const std::optional<SelectionStep> selection = asSelectionStep(path.steps()[parents - 1]);
+    if (selection && startsWith(selection->refKey, typed)) {
+      addNextSteps(projection, projection.addMember(place, selection->refKey), use);
+    }
   }
   if (use.selects) {
     const Place elements = projection.addElements(place);
