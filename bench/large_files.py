@@ -33,7 +33,7 @@ def one_file(m, record, peers, kind, megabytes):
     """Makes all measurements of one file, and deletes it."""
     name, work = f"{kind}{megabytes}.json", title(kind, megabytes)
     # A quick run keeps the titles of a whole run. Its results say that it was quick.
-    write_kind(m.folder / name, kind, int(megabytes * MEGABYTE / (100 if m.quick else 1)))
+    write_kind(m.folder / name, kind, int(megabytes * MEGABYTE / (1000 if m.quick else 1)))
     read(m, record, peers, name, kind, work, megabytes)
     load(m, record, name, work)
     edit(m, record, peers, name, work, megabytes)

@@ -23,7 +23,7 @@ TERMS = """\
 - **Instructions**: executed in user mode, counted by callgrind in an environment with only PATH. The counts are
   repeatable.
 - **Times** are medians of several rounds, in which the programs take turns. A ratio is the median of the ratios of the
-  rounds. The answers of competing programs are compared before their comparison is timed, except those of gron and yq
+  rounds. Before programs are timed against each other, their outputs are compared, except those of gron and yq
   on files of 5 MB.
 - **Held** and **missed**: whether Kovalt stays within a limit that it has to meet."""
 

@@ -1,6 +1,6 @@
 // Runs a command several times and writes a line for each run: the wall time and the processor time in seconds, and the
-// peak memory in bytes. Small and static, because the peak memory of a process includes that of its parent at the
-// start.
+// peak memory in bytes. Small and static, because the kernel counts the memory of the starting process in
+// the peak of the new one.
 //   time_call REPORT RUNS COMMAND [ARGUMENT]...
 
 #include <spawn.h>

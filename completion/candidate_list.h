@@ -26,7 +26,7 @@ class CandidateList {
 
  private:
   std::vector<std::string> words_;
-  std::set<std::string> known_;  ///< The same words. Ordered: the names come from a file that may be hostile.
+  std::set<std::string> known_;  ///< The same words. Not hashed, because a hostile file could make all hashes equal.
   bool cut_ = false;
   std::string least_;  ///< Of the dropped words.
   std::string greatest_;

@@ -3,8 +3,8 @@
 # The helper prints the candidates. Its path is relative to this script.
 set -g __kovalt_helper (status dirname)/@KOVALT_COMPLETE@
 
-# Prints a word of the line, given as typed and without quotes, after expansion. Runs nothing: it expands only a home
-# folder or a variable at the start.
+# Prints a word of the line after expansion. $raw is the word as typed, $word the same without quotes. Runs nothing: it
+# expands only a home folder or a variable at the start.
 function __kovalt_expand --argument-names raw word
     set -l parts (string match --regex '^\$(\w+)(.*)$' -- $word)
     set -l home (string match --regex '^~(?:[a-zA-Z_][a-zA-Z_0-9.-]*)?(?=/|$)' -- $raw)
@@ -22,7 +22,7 @@ function __kovalt_expand --argument-names raw word
 end
 
 function __kovalt_complete
-    # fish does not pass a completion the line after the cursor.
+    # fish passes only the line before the cursor to a completion.
     set -l before (commandline --current-process --tokenize --cut-at-cursor)
     set -l token (commandline --current-token --cut-at-cursor)
     # The word at the cursor may leave a quote open.

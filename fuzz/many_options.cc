@@ -2,8 +2,9 @@
 // lists. An input has a section with one argument per line, and up to two with the content of the files "a", the work
 // file, and "b", the file to merge.
 //
-// In an input, <N%M:text> means N copies of the text, separated by line feeds (arguments) or commas (files), in which
-// "#" is the number of the copy modulo M. A fuzzer cannot write inputs so large that the lookups change their method.
+// In an input, <N:text> means N copies of the text, separated by line feeds (arguments) or commas (files), in which "#"
+// is the number of the copy, from 0. <N%M:text> uses that number modulo M. A fuzzer cannot write inputs so large that
+// the lookups change their method.
 
 #include <algorithm>
 #include <cstdlib>

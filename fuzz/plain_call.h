@@ -32,7 +32,7 @@ struct PlainCall {
 PlainValue* walkPlain(PlainValue& root, const std::string& keyPath, bool reportsMissing, std::string& errors);
 
 /// Applies `options` to `document`: the additions -as, -an, -ab, -ao and -afat, the removals -rm and -rmc, and the
-/// reads -r. The value of -an must be a number as it is printed. -afat merges `merged`, whatever file it names.
+/// reads -r. The value of -an must be a number as Kovalt prints it. -afat merges `merged`, whatever file it names.
 PlainCall callPlainly(const std::vector<PlainOption>& options, PlainValue document, const PlainValue& merged);
 
 /// Returns the text of `value`, indented by `indent` spaces per level; for 0, without any whitespace.

@@ -29,5 +29,4 @@ execute_process(COMMAND gzip -9n ${texts} COMMAND_ERROR_IS_FATAL ANY)
 file(CREATE_LINK Kovalt.1.gz ${share}/man/man1/kovalt.1.gz SYMBOLIC)
 # The permissions must not depend on the umask.
 execute_process(COMMAND chmod -R u=rwX,go=rX ${tree} COMMAND_ERROR_IS_FATAL ANY)
-execute_process(COMMAND find ${tree} -exec touch --no-dereference --date=@${seconds} {} +
-                COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND find ${tree} -exec touch --no-dereference --date=@${seconds} {} + COMMAND_ERROR_IS_FATAL ANY)

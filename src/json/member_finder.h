@@ -21,7 +21,8 @@ const Value* findMember(const Value& value, std::string_view name);
 /// enough. One finder serves one document.
 ///
 /// DESCRIPTION. The first member of a name is found, as a scan finds it. Between two calls, an object that was looked
-/// up may only get members by `append` and lose them by `remove`; values may change at will.
+/// up may only get members by `append` and lose them by `remove`, or be replaced as a whole, even by an empty object.
+/// The values of members may change at will.
 ///
 /// IMPLEMENTATION. An index contains the members at the front of one object; the members after them are scanned. It is
 /// found by the address of the first member, not of the object, which may move.

@@ -1,7 +1,7 @@
 #pragma once
 
-// The two ways in which the tool's own code ends a call early. A failed assertion of RapidJSON and the exceptions
-// of std::stoi and std::bad_alloc, which nothing catches, abort a call too.
+// The two ways in which the tool's own code ends a call early. A failed assertion of RapidJSON aborts a call too, and
+// so do the exceptions of std::stoi and a lack of memory, which nothing catches.
 
 namespace kovalt {
 

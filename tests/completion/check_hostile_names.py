@@ -36,8 +36,8 @@ HISTORY = ["!!", "a!!b", "!true", "!?touch?", "!-1", "!", "\\!!", "';!!;'", '";!
 OTHERS = ["%self", "-r", "--file", "größe", "\u202etouch ran"]
 NAMES = EXPANSIONS + SEPARATORS + QUOTES_AND_BACKSLASHES + HISTORY + OTHERS
 
-# The text typed before TAB, and a name that begins with it, or with its expansion in bash: `unset` is an unset variable,
-# and `ab` a file. The rest of the name could complete an expansion.
+# The text typed before TAB, and a name that begins with it, or with its expansion in bash: `unset` is an unset
+# variable, and `ab` a file. If the rest of the name were inserted, bash could expand it with the typed text.
 BEGUN = [
     ('"$', "$(touch ran)"), ('"${x:-$', "${x:-$(touch ran)}"), ('"\\', "\\$(touch ran)"), ("\\\\\\", "\\$(touch ran)"),
     ('"a\\\\\\', "a\\$(touch ran)"), ("$", "$HOME"), ("a$", "a$HOME"), ("$HO", "ME"), ("$unset-", "-x"), ("!", "!!"),
@@ -152,7 +152,7 @@ class Check:
     def complete_begun_names(self):
         # The other shells complete or expand some of these texts themselves.
         outcomes = (READ, KEPT) if self.name == "bash" else ()
-        # After another command, bash-completion calls the function, not bash.
+        # After another command, the function is called by bash-completion instead of by bash.
         for command in ("Kovalt", "command Kovalt")[: 2 if self.name == "bash" else 1]:
             for i, (begun, name) in enumerate(BEGUN):
                 self.complete(f"{command} -f begun{i}.json -r {begun}", "\t", name, *outcomes)

@@ -222,7 +222,7 @@ UNWRITTEN = "its copy cannot be written"
 CORES = ["sh", "-c", 'ulimit -S -c "$(ulimit -H -c)"; exec "$0" "$@"']
 CHANGED = "changed by another program during the call"
 SURROUNDINGS = [
-    # The new document has 24 bytes. That of the old number is `12`, which the limit cuts to the old document.
+    # The new document has 24 bytes. In the row with a number it is `12`, which the limit cuts to `1`, the old one.
     *(refuses(f"a limit of {size} bytes", "-as k v", UNWRITTEN, how=limited(size)) for size in range(2, 24, 3)),
     edits("a limit of 24 bytes", "-as k v", SMALL, EDITED, how=limited(24)),
     refuses("a limit that leaves the old number", ["-an", "", "12"], UNWRITTEN, b"1", how=limited(1)),

@@ -100,7 +100,8 @@ std::vector<ToolCall> optionForms() {
   };
 }
 
-/// An argument that must follow an option is never itself an option, whatever it looks like.
+/// An argument that must follow an option is never itself an option, whatever it looks like. The only exception is the
+/// one after the key path of a concatenation.
 std::vector<ToolCall> requiredArguments() {
   return {
       ToolCall("key_path_with_a_dash").call("--addString -k v --read ''").printsLine(R"({"-k":"v"})"),

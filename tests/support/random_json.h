@@ -52,7 +52,7 @@ class RandomJson {
   /// A step of a key path: a name or a selection.
   std::string step() { return name() + (below(3) == 0 ? pick({"=7", "=-7.5", "=true", "=a", "=", "=t"}) : ""); }
 
-  /// A key path of at most `steps` steps, and one more for each name with a dot.
+  /// A key path of at most `steps` steps, and one more for each dot in a name or value.
   std::string path(std::size_t steps) {
     std::string text = below(8) == 0 ? "" : "a";
     for (std::size_t count = below(steps); count > 0; --count) {

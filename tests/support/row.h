@@ -9,7 +9,7 @@
 
 namespace kovalt::test {
 
-/// A base for rows. The name says what it checks, in letters, digits and underscores.
+/// A base for rows. The name says what the row checks, in letters, digits and underscores.
 struct Row {
   std::string name;
 };

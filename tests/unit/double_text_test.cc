@@ -17,7 +17,8 @@
 namespace kovalt::test {
 namespace {
 
-/// The count of random numbers of each exponent and of each count of digits. Sanitizers make each of them slow.
+/// How many random numbers are tried for each binary exponent, and for each number of digits with each power of ten.
+/// Sanitizers make each of them slow.
 #ifndef __SANITIZE_ADDRESS__
 constexpr int kTries = 600;
 #else

@@ -14,7 +14,7 @@
 namespace kovalt::test {
 namespace {
 
-/// Random elements of an array. Their values repeat often, and `odd` in a hundred cannot be selected.
+/// Random elements of an array. Their values repeat often, and `odd` in a hundred stop a search.
 class Elements {
  public:
   explicit Elements(int odd) : odd_(odd) {}

@@ -28,15 +28,15 @@ class AddNumberAction : public EditAction {
  public:
   AddNumberAction(std::string_view keyPath, std::string_view value) : EditAction(keyPath), value_(value) {}
 
-  /// Converts the value as std::stoi does. What that throws for a text without leading digits or out of range is not
-  /// caught anywhere: the call aborts before anything is displayed, read or saved.
+  /// Converts the value as std::stoi does. What that throws for a text that does not begin with an integer, or with one
+  /// that is out of range, is not caught anywhere: the call aborts before anything is displayed, read or saved.
   bool apply(Value* target, EditedDocument& document) const override;
 
  private:
   std::string value_;
 };
 
-/// Sets a boolean: true or 1, false or 0, in upper or lower case.
+/// Sets a boolean: true or 1, false or 0, in any mix of upper and lower case.
 class AddBooleanAction : public EditAction {
  public:
   AddBooleanAction(std::string_view keyPath, std::string_view value);

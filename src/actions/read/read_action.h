@@ -23,8 +23,8 @@ class ReadAction : public KeyPath {
   /// such value, which is reported on standard error. `lookups` may be shared by all reads from the same document.
   virtual bool execute(const Value& value, std::string& text, Lookups& lookups) const;
 
-  /// Adds what `execute` looks at, walked from a value at `from`: the whole value at the end of the path, or only the
-  /// fields of its elements if there are fields.
+  /// Adds what `execute` looks at when it walks from a value at `from`: the whole value at the end of the path, or only
+  /// the fields of its elements if there are fields.
   void addTo(Projection& projection, Projection::Place from) const;
 
  protected:

@@ -15,8 +15,8 @@
 
 namespace kovalt {
 
-/// The common base of the handlers of `parseValue`. They also handle what RapidJSON's reader reads, for the tokens that
-/// the scanner leaves to it. `Handler` is the derived class.
+/// The common base of the handlers of `parseValue`. The handlers also handle what RapidJSON's reader reads, for the
+/// tokens that the scanner leaves to it. `Handler` is the derived class.
 template <typename Handler>
 class TokenHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Handler> {
  public:

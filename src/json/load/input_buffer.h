@@ -37,7 +37,7 @@ class InputBuffer {
     return std::exchange(cursor_, nullptr);
   }
 
-  /// Takes the cursor back from its holder. A refill may be pending.
+  /// Takes the cursor back from its holder. Requires that somebody holds it. A refill may be pending.
   void returnCursor(const char* cursor) {
     require(cursor_ == nullptr);
     cursor_ = cursor;

@@ -108,7 +108,7 @@ class ProjectionBuilder : public TokenHandler<ProjectionBuilder> {
   const Projection& projection_;
   DocumentBuilder builder_;
   Validator validator_;
-  std::optional<Projection::Place> next_ = Projection::kRoot;  ///< That of the next value, if it has one.
+  std::optional<Projection::Place> next_ = Projection::kRoot;  ///< The place of the next value, if it has one.
   std::vector<OpenContainer> open_;
   std::size_t opened_ = 0;
   std::vector<std::size_t> keptIn_;  ///< By place: the number of the last object whose member there was kept.

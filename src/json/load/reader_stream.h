@@ -74,7 +74,7 @@ using TokenReader = rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<
 namespace rapidjson {
 
 /// Replaces the reader's function that copies the unescaped characters of a string, for strings that are kept. It may
-/// stop early; the reader copies the rest one by one.
+/// stop early: the reader copies the next character itself and calls it again.
 template <>
 template <>
 inline void kovalt::TokenReader::ScanCopyUnescapedString(kovalt::ReaderStream& stream, StackStream<char>& text) {

@@ -12,9 +12,9 @@ namespace {
 
 using rapidjson::SizeType;
 
-constexpr SizeType kNone = static_cast<SizeType>(-1);
+constexpr SizeType kNoElement = static_cast<SizeType>(-1);
 
-SizeType firstOf(const std::set<SizeType>& positions) { return positions.empty() ? kNone : *positions.begin(); }
+SizeType firstOf(const std::set<SizeType>& positions) { return positions.empty() ? kNoElement : *positions.begin(); }
 
 /// The refValue of a selection. Numbers are compared by their text; a number with another value has another text, so
 /// only equal numbers are converted to text.
@@ -59,7 +59,7 @@ const Value* ElementFinder::find(const Value* array, std::string_view refKey, st
 
   const Wanted wanted = {std::string(refValue)};
   const auto indexed = index.elementsWith.find(wanted.text);
-  SizeType match = indexed == index.elementsWith.end() ? kNone : firstOf(indexed->second);
+  SizeType match = indexed == index.elementsWith.end() ? kNoElement : firstOf(indexed->second);
   SizeType stop = firstOf(index.stops);
   bool hasBadItems = !index.badItems.empty();
   std::size_t comparisons = 0;
@@ -87,7 +87,7 @@ const Value* ElementFinder::find(const Value* array, std::string_view refKey, st
     index.grow(*array, refKey);
   }
   index.budget.earn(comparisons + std::min({index.size, match, stop}));
-  return match < stop ? &(*array)[match] : reportNotFound(refKey, refValue, stop != kNone || hasBadItems);
+  return match < stop ? &(*array)[match] : reportNotFound(refKey, refValue, stop != kNoElement || hasBadItems);
 }
 
 void ElementFinder::willChange(const Value& array, const Value& element, const std::string* name) {

@@ -19,9 +19,10 @@ struct Lookups {
 /// Returns the value that `path` names, walked from `root`, or nullptr. A missing member is silent; a selection that
 /// finds nothing prints its own messages on standard error. The result is valid until the document changes.
 ///
-/// Before the next walk with the same `lookups`, the caller may change the result. It may also change values that are
-/// not inside an array: replace scalars, append elements to arrays, and append members to objects. All members are
-/// appended with `lookups.members`. Nothing else may change.
+/// Before the next walk with the same `lookups`, the caller may replace the result. In the result, and in values that
+/// are not inside an array, it may also replace scalars, append elements to arrays, and append members to objects, but
+/// not change what an array in the result contains. All members are appended with `lookups.members`. Nothing else may
+/// change.
 Value* resolveExisting(const KeyPath& path, Value& root, Lookups& lookups);
 
 /// As `resolveExisting`, for reads: a missing member is reported on standard error with the whole path, and the caller

@@ -37,15 +37,15 @@ struct Decimal {
   int exponent;
 };
 
-/// Finds `decimal` for a value from 1e-7 to below 1e15 if a text of at most 15 digits reads back as it, and for some
-/// values that need 16 digits of which the first is 1. Otherwise returns false with `decimal` unchanged.
+/// Finds `decimal` for a value from 1e-7 to below 1e15 if some text of at most 15 digits reads back as that value, and
+/// for some values that need 16 digits of which the first is 1. Otherwise returns false with `decimal` unchanged.
 bool findFewDigits(double value, Decimal& decimal) {
   // 1233 / 4096 is about log10(2), so `value * power` has 15 digits before the point, or 16 that begin with 1.
   const int places = 14 - ((rapidjson::internal::Double(value).Exponent() * 1233) >> 12);
   require(places >= 0 && static_cast<std::size_t>(places) < kPowersOfTen.size());
   const double power = kPowersOfTen[static_cast<std::size_t>(places)];
-  // For a value that was read from so few digits, the product and the sum together are off by less than one half, so
-  // this is the number that the digits make.
+  // If the value was read from so few digits, the rounding errors of the product and the sum together are below one
+  // half, so `whole` consists of exactly these digits.
   // NOLINTNEXTLINE(bugprone-incorrect-roundings)
   const auto whole = static_cast<std::uint64_t>(value * power + 0.5);
   // Both operands are exact, so the quotient is the value that a reader computes from the digits.
