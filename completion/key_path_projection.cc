@@ -33,8 +33,8 @@ void addCandidates(Projection& projection, Place from, std::string_view word, Ke
 
   addNextSteps(projection, projection.addMembers(place, typed), use);
   if (use.selects && parents > 0) {
-    // A selection as the step before has added its key by name. Members that were added by name are not among those
-    // above.
+    // If the previous step is a selection, `addStep` has added its key by name, so that member has a place of its own,
+    // not the one that `addMembers` returned.
     const std::optional<SelectionStep> selection = asSelectionStep(path.steps()[parents - 1]);
     if (selection && startsWith(selection->refKey, typed)) {
       addNextSteps(projection, projection.addMember(place, selection->refKey), use);

@@ -34,7 +34,7 @@ _kovalt_read() {
         \' | \" | \'\' | \"\") [[ $quote ]] && quote='' || quote=$char inside=$rest ;;
         \\ | \"\\)
           [[ $rest ]] || escape=\\
-          # Between double quotes a backslash is itself, except before a few characters.
+          # Between double quotes a backslash is literal, except before a few characters.
           [[ $rest && $quote && $rest != [\$\`\"\\]* ]] && value+=$char
           value+=${rest:0:1} rest=${rest:1}
           ;;

@@ -72,7 +72,7 @@ TEST_F(KeyPathProjection, KeepsTheSelectingMembersOfArrays) {
   EXPECT_EQ(kept(json, "items.id=6.n"), R"({"items":[{"id":1,"name":null},{"id":6}]})");
 }
 
-TEST_F(KeyPathProjection, KeepsAContinuationInASelectingMember) {
+TEST_F(KeyPathProjection, KeepsTheNextStepsBelowASelectingMember) {
   const Word word = {"a=7."};
   const Document document = loadFor(R"([{"a":[{"b":1},7],"c":2}])", word);
   EXPECT_EQ(keyPathCandidates({&document}, word.text, word.use).words(), (std::vector<std::string>{"a=7.a.", "a=7.c"}));

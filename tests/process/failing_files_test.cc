@@ -87,7 +87,8 @@ std::vector<ToolCall> merges() {
       loading("byte_order_mark", "-af s.json", cannotParse("s.json")).given("s.json", "\xef\xbb\xbf{\"a\":1}"),
       loading("nul_after_the_value", "-af s.json", cannotParse("s.json")).given("s.json", std::string("{}\0", 3)),
 
-      // The document is unchanged, except that a value at the path of a merge becomes an empty object if it is none.
+      // The document is unchanged, except that a value at the path of a merge becomes an empty object if it is not an
+      // object.
       changed("missing_file_at_each_type", R"({"a":"s","b":[1],"c":{"d":1}})",
               "-af s.json -afat a s.json -afat b s.json -afat c s.json -afat new.key s.json",
               R"({"a":{},"b":{},"c":{"d":1},"new":{"key":{}}})")
@@ -115,7 +116,7 @@ std::vector<ToolCall> saves() {
       notSaved("missing_folder_from_the_root", "/kovalt-no-such-folder/f.json"),
       notSaved("home_folder_is_not_expanded", "~/f.json"),
       notSaved("variable_is_not_expanded", "$HOME/f.json"),
-      notSaved("longer_name_than_the_file_system_has", std::string(256, 'n')),
+      notSaved("longer_name_than_the_file_system_allows", std::string(256, 'n')),
       notSaved("file_in_place_of_a_folder", "f.json/f.json").given("f.json", "{}"),
       notSaved("path_of_a_file_with_a_slash_at_its_end", "f.json/").given("f.json", "{}"),
       notSaved("link_to_itself", "link.json").givenSymbolicLink("link.json", "link.json"),

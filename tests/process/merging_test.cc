@@ -53,8 +53,8 @@ std::vector<ToolCall> merged() {
               R"({"a":3,"l":[1,2],"b":2})"),
       merging("equal_names_of_an_object_of_the_file_are_merged", R"({"o":{}})", R"({"o":{"a":1,"a":2}})",
               R"({"o":{"a":2}})"),
-      merging("object_is_merged_into_the_first_of_equal_names_of_a_new_one", R"({})",
-              R"({"o":{"a":1,"a":2},"o":{"a":3,"b":4}})", R"({"o":{"a":3,"a":2,"b":4}})"),
+      merging("object_is_merged_into_a_new_one_with_equal_names", R"({})", R"({"o":{"a":1,"a":2},"o":{"a":3,"b":4}})",
+              R"({"o":{"a":3,"a":2,"b":4}})"),
       merging("equal_names_of_a_new_object_are_kept", R"({})", R"({"o":{"a":1,"a":2}})", R"({"o":{"a":1,"a":2}})"),
       ToolCall("first_of_equal_names_is_merged_into")
           .given("f.json", R"({"a":1,"a":"x","l":[0],"l":[9]})")

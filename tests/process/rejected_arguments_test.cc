@@ -78,8 +78,7 @@ std::vector<ToolCall> missing() {
       lacking("nothing_is_done", "-an").given("f.json", "{").call("-fd f.json -as k v -af missing.json -r k -an k"),
 
       // A concatenation needs an argument after its key path. For -roac it may be an option, which is then parsed as
-      // such
-      // and lacks its own argument here.
+      // such and lacks its own argument here.
       lacking("fields_of_a_concatenation", "-roac").call("-roac k"),
       lacking("option_in_place_of_the_fields_lacks_its_arguments", "-as").call("-roac k -as"),
 
