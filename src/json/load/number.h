@@ -84,7 +84,7 @@ struct Number {
 };
 
 /// Appends the digits at `text` to `value`, which may overflow, and returns their end. Requires eight readable
-/// characters from any of them on, and from their end.
+/// characters from each of them on, and from their end.
 inline const char* appendDigits(const char* text, std::uint64_t& value) {
   constexpr std::array<std::uint64_t, WordBlock::kSize + 1> kPowersOfTen = {1,      10,      100,      1000,     10000,
                                                                             100000, 1000000, 10000000, 100000000};

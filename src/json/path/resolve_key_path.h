@@ -21,8 +21,8 @@ struct Lookups {
 ///
 /// Before the next walk with the same `lookups`, the caller may replace the result. In the result, and in values that
 /// are not inside an array, it may also replace scalars, append elements to arrays, and append members to objects, but
-/// not change what an array in the result contains. All members are appended with `lookups.members`. Nothing else may
-/// change.
+/// not change elements that an array in the result already has. All members are appended with `lookups.members`.
+/// Nothing else may change.
 Value* resolveExisting(const KeyPath& path, Value& root, Lookups& lookups);
 
 /// As `resolveExisting`, for reads: a missing member is reported on standard error with the whole path, and the caller

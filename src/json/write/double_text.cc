@@ -82,7 +82,7 @@ void findDigits(double value, Decimal& decimal) {
   if (mayHaveFewDigits && findFewDigits(value, decimal)) {
     return;
   }
-  // Grisu2 usually finds the fewest digits, but sometimes one more. If it finds 16 where 15 are not enough, these are
+  // Grisu2 usually finds the fewest digits, but sometimes more. If it finds 16 where 15 are not enough, these are
   // the fewest.
   rapidjson::internal::Grisu2(value, decimal.digits, &decimal.length, &decimal.exponent);
   if (!mayHaveFewDigits || decimal.length > 16) {
