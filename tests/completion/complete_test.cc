@@ -147,6 +147,7 @@ std::vector<LineRow> keyPathRows() {
       {"key_path_of_a_later_file", {"--read", "netw|", "--file", "c.json"}, {"network."}},
       {"key_path_between_options", {"--read", "network.port", "-ao", "fl|", "-fd", "c.json"}, {"flag"}},
       {"key_path_to_merge_at", {"-f", "c.json", "--addFileAt", "netw|"}, {"network."}},
+      {"key_path_of_an_option_after_fields", {"-f", "c.json", "-roac", "list", "id", "-r", "netw|"}, {"network."}},
       {"key_path_of_an_array", {"-f", "c.json", "--read", "list.|"}, {"list.id=1."}},
       {"key_path_to_remove", {"-f", "c.json", "-rm", "list|"}, {"list"}},
       {"key_path_to_remove_and_clear", {"-f", "c.json", "--removeAndClear", "list.|"}, {}},
