@@ -140,7 +140,7 @@ def option_lines(data):
                [(size, seconds) for size, seconds in zip(row["sizes"], row["seconds"]) if seconds is not None])
               for row in rows]
     blocks, plot = lines_of(series)
-    return settings("Many options in one call, on one object or array of as many", "ytics") + blocks + f"""
+    return settings("Many options in one call, on an object or array of that size", "ytics") + blocks + f"""
 set xrange [0:{max(rows[0]["sizes"]) * 1.05}]
 set yrange [0:*]
 set format x "%'.0f"

@@ -136,7 +136,7 @@ def markdown(data, file, pictures):
     parts = [title]
     if data["quick"]:
         parts.append("**This was a quick run with tiny files and few rounds. It only shows that the benchmark works.** "
-                     "The files have a hundredth of the sizes in their titles.")
+                     "The large files have a thousandth of the sizes in their titles.")
     parts += [f"`scripts/bench` wrote this page. The same figures as data: [{file}]({file}).",
               origin(data), "## In short", summary(data), "## Terms", TERMS]
     parts += [f"![{text}]({picture})" for picture, text in pictures.items()]
@@ -154,7 +154,7 @@ def markdown(data, file, pictures):
                   and "memory" not in bound["what"] and "time of" not in bound["what"]]
         if single:
             rows = [[bound["work"], bound["what"], value_text(bound), limit_text(bound)] for bound in single]
-            parts.append(table(["Work", "What", "Measured", "Bound"], rows))
+            parts.append(table(["Work", "What", "Measured", "Limit"], rows))
     return "\n\n".join(parts) + "\n"
 
 

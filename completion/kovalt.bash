@@ -57,7 +57,7 @@ _kovalt_read() {
   done
 }
 
-# Sets `quoted` to the text $1 as it is typed after the open quote, or unquoted if none is open.
+# Sets `quoted` to what must be typed for the text $1: after the open quote, or with backslashes if none is open.
 _kovalt_quote() {
   local i char special
   quoted=$1

@@ -3,7 +3,7 @@
 // file, and "b", the file to merge.
 //
 // In an input, <N:text> means N copies of the text, separated by line feeds (arguments) or commas (files), in which "#"
-// is the number of the copy, from 0. <N%M:text> uses that number modulo M. A fuzzer cannot write inputs so large that
+// is the number of the copy, from 0. <N%M:text> uses that number modulo M. A fuzzer rarely writes inputs so large that
 // the lookups change their method.
 
 #include <algorithm>

@@ -28,7 +28,7 @@ std::optional<Exit> exitOf(const std::function<void()>& work) {
 }
 
 /// Appends `count` members to an object, with the names 0, `stride`, twice the stride and so on, modulo `count`. A
-/// fuzzer cannot write objects so large that the lookup of names changes its method.
+/// fuzzer rarely writes objects so large that the lookup of names changes its method.
 void widen(Value& value, std::size_t count, std::size_t stride, Allocator& allocator) {
   if (!value.IsObject()) {
     return;

@@ -14,7 +14,7 @@ run_rows() {
   return "$status"
 }
 
-# Builds for an architecture, and runs every test that can run there.
+# Builds for an architecture, and runs the process tests, the unit tests and the fuzz targets on their saved inputs.
 emulate() {
   local architecture=$1 folder=architectures/$1 program=build/architectures/$1/src/app/Kovalt emulator
   choose_toolchain "$architecture"

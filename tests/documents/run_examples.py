@@ -3,14 +3,14 @@
 
 An example is a fenced block that begins with a "$ " line. Such a line is a command, "> " lines continue it, and all
 other lines are its output on both streams. The blocks of a section share one shell, so that a block can use "$?" or a
-variable of an earlier one, and one fresh directory with copies of the example files. Every section runs in bash and
+variable of an earlier one, and one fresh folder with copies of the example files. Every section runs in bash and
 then in dash, as an example of a POSIX shell. If a Markdown block is marked "console bash", its section runs in bash
 only.
 
 A Markdown block marked "console same" does the same as the block before it, with other tools. It runs in a fresh
-directory of its own. The last commands of both must print the same, or the same JSON.
+folder of its own. The last commands of both must print the same, or the same JSON.
 
-"$prefix" is the directory in which the tool is installed.
+"$prefix" is the folder in which the tool is installed.
 
 sudo is replaced by a script that needs no password: like sudo it closes all files except the standard streams, and then
 runs the command as the same user.
@@ -91,7 +91,7 @@ def add_line(block, number, line):
 
 
 def run_in_one_shell(shell, commands, program, examples, prefix):
-    """Runs the commands in a fresh directory and stores the output of each."""
+    """Runs the commands in a fresh folder and stores the output of each."""
     with tempfile.TemporaryDirectory() as top:
         folder = Path(top, "work")
         shutil.copytree(examples, folder)

@@ -151,7 +151,7 @@ INSTANTIATE_TEST_SUITE_P(
                     NumberRow{{"third"}, 1.0 / 3, "0.3333333333333333"},
                     NumberRow{{"fifteen_digits"}, 123456789.012345, "123456789.012345"},
                     NumberRow{{"sixteen_digits"}, 9876543210.123456, "9876543210.123456"},
-                    NumberRow{{"seventeen_digits"}, 64.012345678901234, "64.01234567890124"},
+                    NumberRow{{"sixteen_of_seventeen_digits"}, 64.012345678901234, "64.01234567890124"},
                     NumberRow{{"below_the_range_of_the_fast_path"}, 9.9e-8, "9.9e-8"},
                     NumberRow{{"lowest_of_the_fast_path"}, 1e-7, "1e-7"},
                     NumberRow{{"last_with_an_exponent"}, 9.5e-7, "9.5e-7"},

@@ -26,7 +26,7 @@ TEST(EditAction, ChangesNothingInTheBaseClass) {
 
 TEST(EditAction, RejectsANullTargetSilently) {
   std::vector<std::unique_ptr<EditAction>> additions;
-  // Each would report or throw if it looked at its value.
+  // The first five would report or throw if they looked at their values.
   additions.push_back(std::make_unique<AddBooleanAction>("k", "yes"));
   additions.push_back(std::make_unique<AddNumberAction>("k", "x"));
   additions.push_back(std::make_unique<AddArrayNumberAction>("k", Values{"x"}));

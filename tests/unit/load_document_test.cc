@@ -56,8 +56,8 @@ class LoadDocument : public testing::Test {
     return {document.GetString(), document.GetStringLength()};
   }
 
-  /// Expects that a file with this number loads if and only if RapidJSON's own reader accepts it, and as the same
-  /// number, alone and as an element.
+  /// Expects that a file with this number loads if and only if RapidJSON's own reader accepts it as a finite number,
+  /// and as the same number, alone and as an element.
   void compareNumber(const std::string& content) {
     rapidjson::Document expected;
     expected.Parse(content.c_str());

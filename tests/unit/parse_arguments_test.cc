@@ -1,5 +1,4 @@
-// Calls that no shell makes: without any argument, with another name of the program, and with arguments after the
-// count.
+// The name of the program, and calls that no shell makes: without any argument, and with arguments after the count.
 
 #include "app/parse_arguments.h"
 
