@@ -33,7 +33,7 @@ enum class OptionEffect {
   edit,
   removal,
   read,
-  workFile,  ///< The file to work on, given at most once.
+  workFile,  ///< The file to work on. None may follow one whose path is not empty.
 };
 
 /// The arguments of one option on the command line. Those that the option does not have are empty.

@@ -6,7 +6,7 @@
 
 namespace kovalt {
 
-/// Whether this build checks contracts. Builds with sanitizers do; others generate no code for them.
+/// Whether this build checks contracts. Builds with sanitizers do; other optimised builds generate no code for them.
 #ifdef KOVALT_CHECK_CONTRACTS
 inline constexpr bool kChecksContracts = true;
 #else

@@ -17,9 +17,9 @@ namespace kovalt {
 static_assert(RAPIDJSON_MAJOR_VERSION == 1 && RAPIDJSON_MINOR_VERSION == 1 && RAPIDJSON_PATCH_VERSION == 0,
               "the specialisations next to Kovalt's streams replace functions of RapidJSON 1.1.0");
 
-/// The document of a run. Its memory pool allocates chunks of at least 65,536 bytes, and frees all chunks when the
-/// document is destroyed. Until then it never uses memory twice, so the address of the first element or member of an
-/// array or object never belongs to another one.
+/// The document of a call, or a file that is merged into it and shares its memory pool. The pool allocates chunks of at
+/// least 65,536 bytes, and frees all of them when the document of the call is destroyed. Until then it never uses
+/// memory twice, so the address of the first element or member of an array or object never belongs to another one.
 using Document =
     rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<AbortingAllocator>, AbortingAllocator>;
 
