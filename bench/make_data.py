@@ -10,7 +10,7 @@ from pathlib import Path
 
 SEED = 20261121
 MEGABYTE = 1_000_000
-#: A file repeats this many bytes of distinct elements, more than the L2 cache of a processor, up to its size.
+#: The bytes of distinct elements, more than the L2 cache of a processor holds. A larger file repeats them.
 DISTINCT = 4 * MEGABYTE
 KINDS = {
     "records": "compact records",

@@ -13,7 +13,7 @@ import charts
 
 TERMS = """\
 - **Times Kovalt's**: the time or the memory of a program divided by that of Kovalt for the same work. Above 1, Kovalt
-  needs less. A program that needs less than Kovalt is marked **ahead**.
+  needs less. A competitor that needs less than Kovalt is marked **ahead**.
 - **Bare parse**: a minimal program that parses the file with RapidJSON, the library that Kovalt uses, and exits. **Bare
   parse and write** also saves the document, indented. **Bare parse and print** prints it through RapidJSON's string
   buffer. These, `cat`, and a program that only returns 0 are references, not competitors.

@@ -1,7 +1,7 @@
 #pragma once
 
 // The parts of a document that the candidates for a key path depend on, so that a completion loads nothing else.
-// Mirrors key_path_candidates.h: whoever changes one must change the other.
+// Mirrors key_path_candidates.h: change both or neither.
 
 #include <string_view>
 

@@ -48,7 +48,7 @@ void tryMerge(Document& target, Document& source) {
   expect(earlyExit || plainValue(target) == expected, "a merge has the same result as the plain merge");
 }
 
-/// Returns whether the process continues.
+/// Returns false if the removal exited early.
 bool tryRemoval(Document& document, const std::string& keyPath, EmptyParents emptyParents) {
   const RemoveAction action(keyPath, emptyParents);
   PlainValue expected = plainValue(document);
