@@ -38,7 +38,7 @@ struct Decimal {
 };
 
 /// Finds `decimal` for a value from 1e-7 to below 1e15 if some text of at most 15 digits reads back as that value, and
-/// for some values that need 16 digits of which the first is 1. Otherwise returns false with `decimal` unchanged.
+/// for some values whose text has 16 digits and begins with 1. Otherwise returns false with `decimal` unchanged.
 bool findFewDigits(double value, Decimal& decimal) {
   // 1233 / 4096 is about log10(2), so `value * power` has 15 digits before the point, or 16 that begin with 1.
   const int places = 14 - ((rapidjson::internal::Double(value).Exponent() * 1233) >> 12);
