@@ -25,7 +25,8 @@ TERMS = """\
 - **Times** are medians of several rounds, in which the programs take turns. A ratio is the median of the ratios of the
   rounds. Before programs are timed against each other, their outputs are compared, except those of gron and yq
   on files of 5 MB.
-- **Held** and **missed**: whether Kovalt stays within a limit that it has to meet."""
+- **Held** and **missed**: whether Kovalt stays within a limit that it has to meet. In the tables of programs, a limit
+  in MB applies to the memory of Kovalt, and any other limit to the ratio of the times."""
 
 
 def time_text(seconds):
@@ -100,7 +101,7 @@ def growth_table(growth, bounds):
                      *[value_text(bound) + ", " + limit_text(bound) for bound in judged],
                      *(["-"] if len(judged) == 1 else [])])
     return table(["Work", "Sizes", "Kovalt's times", "Exponent in instructions: first and second size",
-                  "Exponent in time: second and third size"], rows)
+                  "Exponent in processor time: second and third size"], rows)
 
 
 def summary(data):
