@@ -10,8 +10,8 @@ namespace kovalt {
 ///
 /// A lookup earns what it would cost to scan: one comparison for each member or element up to the match, or for all of
 /// them if there is none, and one for each value inside an element that it compared. Each entry that is added to the
-/// index costs as much as `kEntryCost` comparisons; an element that is selected by the items of an array costs one more
-/// for each item. What is not in the index is scanned. So lookups never cost more than twice what scans alone would
+/// index costs as much as `kEntryCost` comparisons. An element counts as one entry, and as one more for each item if an
+/// array selects it. What is not in the index is scanned. So lookups never cost more than twice what scans alone would
 /// cost, whatever a file contains and however often it changes.
 class IndexBudget {
  public:

@@ -35,7 +35,8 @@ class MemberFinder {
   const Value* find(const Value& value, std::string_view name);
   Value* find(Value& value, std::string_view name);
 
-  /// Appends a member to `object`, moving `name` and `value` into it.
+  /// Appends a member to `object`, moving `name` and `value` into it. If `object` is not an object, an assertion
+  /// of RapidJSON aborts the process.
   void append(Value& object, Value& name, Value& value, Allocator& allocator);
 
   /// Removes the first member with that name from `object`; its last member moves into the gap. Returns whether there

@@ -28,8 +28,8 @@ class AddNumberAction : public EditAction {
  public:
   AddNumberAction(std::string_view keyPath, std::string_view value) : EditAction(keyPath), value_(value) {}
 
-  /// Converts the value as std::stoi does. What that throws for a text that does not begin with an integer, or with one
-  /// that is out of range, is not caught anywhere: the call aborts before anything is displayed, read or saved.
+  /// Converts the value as std::stoi does. That throws if the text does not begin with an integer, or if the integer is
+  /// out of range. Nothing catches the exception: the call aborts before anything is displayed, read or saved.
   bool apply(Value* target, EditedDocument& document) const override;
 
  private:
@@ -86,7 +86,8 @@ class AddArrayBooleanAction : public EditAction {
  public:
   AddArrayBooleanAction(std::string_view keyPath, const std::vector<std::string>& values);
 
-  /// A word that is not a boolean becomes null, and one line on standard error then lists all words.
+  /// A word that is not a boolean becomes null, and one line on standard error then lists all words. That
+  /// still returns true.
   bool apply(Value* target, EditedDocument& document) const override;
 
  private:

@@ -19,8 +19,8 @@ class EditAction {
   virtual ~EditAction() = default;
 
   /// Changes `target`, a value of `document` or on its way into it, as the class of the action says. Returns false with
-  /// `target` unchanged for a value that is not accepted, after a report on standard error, and for a null target,
-  /// silently: a path that leads nowhere may be passed on unchecked. The base changes nothing and returns true.
+  /// `target` unchanged if the class rejects the value as a whole, after a report on standard error, and for a null
+  /// target, silently: a path that leads nowhere may be passed on unchecked. The base changes nothing and returns true.
   virtual bool apply(Value* target, EditedDocument& document) const;
 
   [[nodiscard]] const KeyPath& keyPath() const { return keyPath_; }

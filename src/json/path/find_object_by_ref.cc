@@ -123,7 +123,7 @@ void ElementFinder::Index::remove(const Value& element, std::string_view refKey,
 }
 
 void ElementFinder::Index::grow(const Value& array, std::string_view refKey) {
-  const auto canPayFor = [&](SizeType position) { return budget.pay(countVisited(array[position], refKey)); };
+  const auto canPayFor = [&](SizeType position) { return budget.pay(countEntries(array[position], refKey)); };
   while (!changed.empty() && canPayFor(*changed.begin())) {
     add(array[*changed.begin()], refKey, *changed.begin());
     changed.erase(changed.begin());

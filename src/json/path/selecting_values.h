@@ -61,7 +61,7 @@ Obstacle visitSelecting(const Value& element, std::string_view refKey, Visit vis
 }
 
 /// The number of entries that the element can need in an index: one, and one more for each item of an array.
-inline std::size_t countVisited(const Value& element, std::string_view refKey) {
+inline std::size_t countEntries(const Value& element, std::string_view refKey) {
   const Value* const member = findMember(element, refKey);
   return member != nullptr && member->IsArray() ? std::size_t{1} + member->Size() : 1;
 }
