@@ -110,7 +110,7 @@ class Measuring:
         """
         samples = [Samples() for _ in calls]
         if self.quick:
-            rounds, runs = min(rounds, 2), 1
+            rounds, runs = min(rounds, 2), min(runs, 2)
         for number in range(rounds):
             active = [position for position, (call, sample) in enumerate(zip(calls, samples))
                       if number < call.rounds and sum(sample.seconds) * runs < patience]

@@ -27,8 +27,7 @@ build_with() {
   local compiler=$1 library=$2 folder=compilers/$1-$2 command=${1/clang-/clang++-} flags='' root settings
   rm -rf "build/$folder"
   settings=("-DCMAKE_CXX_COMPILER=$command")
-  # GCC finds some warnings only while it optimises. clang finds all of its warnings without, and
-  # builds faster then.
+  # GCC finds some warnings only while it optimises. clang finds all of its warnings without, and builds faster then.
   if [[ $compiler == clang-* ]]; then
     settings+=(-DCMAKE_BUILD_TYPE=)
     flags=-Wno-unused-command-line-argument
