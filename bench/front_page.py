@@ -28,7 +28,7 @@ ROWS = (
 
 
 def cell(row, with_memory):
-    """The time of a program, times Kovalt's, and perhaps its memory."""
+    """The time of a program, how many times that of Kovalt it is, and perhaps the memory."""
     if row is None:
         return "-"
     time, memory = time_text(row["seconds"]), memory_text(row["memory"])

@@ -64,8 +64,9 @@ class Record:
             + (f" ({row['times']:.2f} times)" if "times" in row else "") for row in rows), flush=True)
 
     def grow(self, group, work, sizes, command_of, rounds=11, patience=2.5):
-        """Measures the tool at three sizes. The exponent is that of the instructions between the first two, and that of
-        the time between the last two. If a call is too slow to count its instructions, its time replaces them."""
+        """Measures the tool at three sizes, and judges two exponents: that of the instructions between the first two,
+        and that of the processor time between the last two. If a call is too slow to count its instructions, judges
+        only the exponent of the processor time between the first two, and does not measure the third size."""
         measuring = self.measuring
         calls = [Call("Kovalt", command_of(size)) for size in sizes]
         small, middle, large = sizes

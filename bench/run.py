@@ -2,7 +2,8 @@
 and as charts.
 
 A time is the median over all rounds. A ratio is the median of the ratios within each round, so that changes in the
-speed of the machine do not matter. The growth is measured in processor time, which other programs disturb less.
+speed of the machine do not matter. The growth is measured in instructions and in processor time, which other programs
+disturb less.
 Instructions are counted by callgrind in user mode and are repeatable.
 """
 

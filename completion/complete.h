@@ -11,7 +11,7 @@ namespace kovalt {
 /// The candidates for the word at the cursor.
 struct Completion {
   bool isFile = false;             ///< The word is a file name, which the shell completes itself.
-  bool isCut = false;              ///< There are more candidates than `lines`.
+  bool isCut = false;              ///< There are too many candidates, so `lines` may lack some.
   std::vector<std::string> lines;  ///< The candidates. An option is followed by a tab and its description.
 };
 

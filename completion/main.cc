@@ -1,7 +1,7 @@
 // Completes a command line for the shells' completion functions. The arguments are the index of the word at the cursor,
 // counted from 0, and the words of the line without the shell's quoting. Prints "files" if the word is a file name.
-// Otherwise prints "words", or "words cut" if there are more candidates than it lists, and then one candidate per line;
-// an option is followed by a tab and its description.
+// Otherwise prints "words", or "words cut" if there are too many candidates to list all, and then one candidate per
+// line; an option is followed by a tab and its description.
 //
 // Never prints on standard error and always exits with status 0: an error would garble the command line that the user
 // is typing.

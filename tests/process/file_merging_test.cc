@@ -1,4 +1,4 @@
-// Merges of files at the root and at a key path. FailingLoads shows files that cannot be merged.
+// Merges of files at the root and at a key path. FailingMerges shows files that cannot be merged.
 
 #include "document_rows.h"
 #include "messages.h"

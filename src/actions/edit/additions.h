@@ -29,7 +29,8 @@ class AddNumberAction : public EditAction {
   AddNumberAction(std::string_view keyPath, std::string_view value) : EditAction(keyPath), value_(value) {}
 
   /// Converts the value as std::stoi does. That throws if the text does not begin with an integer, or if the integer is
-  /// out of range. Nothing catches the exception: the call aborts before anything is displayed, read or saved.
+  /// out of range. Nothing catches the exception: the call aborts before it displays, saves or reads the
+  /// edited document.
   bool apply(Value* target, EditedDocument& document) const override;
 
  private:

@@ -37,7 +37,8 @@ class KeyPath {
   /// The steps in order, byte for byte as they were written.
   [[nodiscard]] const std::vector<std::string>& steps() const { return steps_; }
 
-  /// The steps joined with ".", whatever separator they were split at: the argument as the user wrote it.
+  /// The steps joined with ".", whatever separator they were split at. The command line has no other, so for its key
+  /// paths this is the argument as the user wrote it.
   [[nodiscard]] std::string text() const;
 
  private:
