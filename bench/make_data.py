@@ -63,7 +63,7 @@ def message(number, rng):
 
 
 def feature(number, rng):
-    """Returns an area whose corners are numbers of 15 digits."""
+    """Returns an area whose corners have coordinates of up to 15 digits."""
     corners = [[float(f"{rng.uniform(10, 99):.13f}"), float(f"{rng.uniform(10, 90):.13f}")]
                for _ in range(rng.randrange(20, 200))]
     return {"id": number, "name": f"area-{number:07d}", "type": "Feature",

@@ -35,7 +35,8 @@ class StepCollector {
     }
   }
 
-  /// Whether there are so many selections that the user should choose their key first.
+  /// Whether the list is cut and no key is chosen yet, so that arrays should offer the keys of their selections first.
+  /// If members have cut it, collecting again does not change them.
   [[nodiscard]] bool hasTooManySelections() const {
     return candidates_.isCut() && typed_.find('=') == std::string_view::npos;
   }

@@ -8,11 +8,11 @@ namespace kovalt {
 
 /// What the lookups of one index may spend on it.
 ///
-/// A lookup earns what it would cost to scan: one comparison for each member or element up to the match, or for all of
-/// them if there is none, and one for each value inside an element that it compared. Each entry that is added to the
-/// index costs as much as `kEntryCost` comparisons. An element counts as one entry, and as one more for each item if an
-/// array selects it. What is not in the index is scanned. So lookups never cost more than twice what scans alone would
-/// cost, whatever a file contains and however often it changes.
+/// A lookup earns what it would cost to scan: one comparison for each member or element up to the one that ends the
+/// search, or for all of them if none does, and one for each value inside an element that it compared. Each entry that
+/// is added to the index costs as much as `kEntryCost` comparisons. An element counts as one entry, and as one more for
+/// each item if an array selects it. What is not in the index is scanned. So lookups never cost more than twice what
+/// scans alone would cost, whatever a file contains and however often it changes.
 class IndexBudget {
  public:
   /// About how many comparisons take as long as adding one entry to an index. Objects and arrays with no more members

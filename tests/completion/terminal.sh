@@ -16,8 +16,8 @@ clean_up() {
 trap clean_up EXIT
 
 # Opens a shell in the current folder: bash, bare-bash (without the package bash-completion), zsh or fish. It has a
-# typical set-up, but a short prompt and no history. The further arguments are lines of its startup file; in zsh they come
-# before compinit. Its environment contains HOME=`folder`/home and the variables in `environment`.
+# typical set-up, but a short prompt. The further arguments are lines of its startup file; in zsh they come before
+# compinit. Its environment contains HOME=`folder`/home and the variables in `environment`.
 environment=()
 open_shell() {
   local command home=$folder/home

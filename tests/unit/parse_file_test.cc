@@ -95,7 +95,7 @@ void compare(std::string text) {
   EXPECT_EQ(load(text, {}) != "(rejected)", isOneValue) << shown;
 }
 
-/// Compares `text` with the end of the buffer at each of its bytes.
+/// Calls `compare` with spaces before `text`, so that the end of the buffer falls on each of its bytes in turn.
 void compareAroundBufferEnds(const std::string& text) {
   for (std::size_t inside = 0; inside <= text.size() + 1; ++inside) {
     compare(std::string(kBuffer - inside, ' ') + text);

@@ -38,7 +38,7 @@ class TokenHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Hand
   }
 
  private:
-  /// Handles a string that the scanner read, or else reads it.
+  /// Handles `text`, the string that the scanner read. If it read none, RapidJSON's reader reads the string.
   bool readText(Scanner& scanner, std::optional<std::string_view> text) {
     return text ? handler().String(text->data(), static_cast<rapidjson::SizeType>(text->size()), true)
                 : readByReader(scanner);
