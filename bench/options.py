@@ -25,7 +25,7 @@ class Work:
     arguments: Callable
     #: Returns the output of the call as a JSON value.
     expected: Callable
-    #: Whether the call displays the document. In measured calls, an additional read avoids that cost.
+    #: Whether the call displays a large document. In measured calls, an additional read avoids that cost.
     displays: bool = False
 
 

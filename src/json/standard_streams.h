@@ -1,8 +1,8 @@
 #pragma once
 
 // Whole lines on the two standard streams. Each line is flushed when it is complete, so that lines of both streams,
-// redirected to one file, appear in the order in which they were printed. Write errors are ignored: there is nowhere to
-// report them.
+// redirected to one file, appear in the order in which they were printed. Write errors are ignored and do not
+// change the exit status.
 
 #include <string_view>
 

@@ -7,8 +7,8 @@ variable of an earlier one, and one fresh folder with copies of the example file
 then in dash, as an example of a POSIX shell. If a Markdown block is marked "console bash", its section runs in bash
 only.
 
-A Markdown block marked "console same" does the same as the block before it, with other tools. It runs in a fresh
-folder of its own. The last commands of both must print the same, or the same JSON.
+A Markdown block marked "console same" does the same as the block before it, with other tools. It runs in bash
+only, in a fresh folder of its own. The last commands of both must print the same, or the same JSON.
 
 "$prefix" is the folder in which the tool is installed.
 

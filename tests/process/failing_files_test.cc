@@ -87,7 +87,7 @@ std::vector<ToolCall> merges() {
       loading("byte_order_mark", "-af s.json", cannotParse("s.json")).given("s.json", "\xef\xbb\xbf{\"a\":1}"),
       loading("nul_after_the_value", "-af s.json", cannotParse("s.json")).given("s.json", std::string("{}\0", 3)),
 
-      // The document is unchanged, except that a value at the path of a merge becomes an empty object if it is not an
+      // The document changes only at the path of a merge: a value that is missing or not an object becomes an empty
       // object.
       changed("missing_file_at_each_type", R"({"a":"s","b":[1],"c":{"d":1}})",
               "-af s.json -afat a s.json -afat b s.json -afat c s.json -afat new.key s.json",

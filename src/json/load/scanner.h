@@ -38,7 +38,7 @@ class Scanner {
     return *next_;
   }
 
-  /// Skips the next character, which is part of the file. A refill is then pending.
+  /// Skips the next character, which must be part of the file. A refill is then pending.
   void skipCharacter() {
     requireReady();
     moveTo(next_ + 1);
