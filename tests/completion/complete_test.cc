@@ -88,6 +88,7 @@ class CompleteLine : public testing::TestWithParam<LineRow> {
 TEST_P(CompleteLine, OffersTheCandidatesAtTheCursor) {
   const Completion completion = completeLine(GetParam().line);
   const Words& expected = GetParam().expected;
+  EXPECT_FALSE(completion.isCut);
   if (expected == Words{kFiles}) {
     EXPECT_TRUE(completion.isFile);
     EXPECT_TRUE(completion.lines.empty());
