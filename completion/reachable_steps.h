@@ -1,7 +1,7 @@
 #pragma once
 
-// The steps by which a key path can continue from a value. Members with an empty name, and steps that contain a "." or
-// that a terminal cannot show, are left out.
+// The steps by which a key path can continue from a value. The empty step, which would name a member with an empty
+// name, and steps that contain a "." or that a terminal cannot show are left out.
 
 #include <optional>
 #include <set>

@@ -128,8 +128,8 @@ using CharacterBlock = WordBlock;
 #endif
 
 /// Copies the unescaped characters at the front of the `size` characters at `from`, and returns their number. Requires
-/// `size` to be at least `Block::kSize`. May overwrite all `size` characters at `to`, which must not overlap them, but
-/// nothing after.
+/// `size` to be at least `Block::kSize`, and the `size` characters at `to` not to overlap those at `from`. May
+/// overwrite all of them, but nothing after.
 template <typename Block>
 std::size_t copyUnescapedBlocks(const char* from, std::size_t size, char* to) {
   std::size_t copied = 0;

@@ -22,7 +22,7 @@ const Value* walk(const KeyPath& path, const Value& root, Lookups& lookups, Purp
     const Value& array = *current;
     current = lookups.elements.find(&array, selection->refKey, selection->refValue);
     if (current != nullptr && purpose == Purpose::edit) {
-      // The caller is about to change the element, or something inside the member that the next step names.
+      // The caller is about to change the element, or only the member that the next step names or something inside it.
       lookups.elements.willChange(array, *current, step + 1 == path.steps().end() ? nullptr : &step[1]);
     }
   }
