@@ -25,9 +25,9 @@ namespace kovalt {
 /// other streams character by character. Write errors are not noticed. Nothing is written unless a piece is full or
 /// `Flush` is called.
 ///
-/// IMPLEMENTATION. Each operation makes room for `kRoom` characters before it adds any. It then adds at most that many,
-/// except for long strings, which fill the rest of the buffer. What is beyond a full piece moves to the front of the
-/// next one.
+/// IMPLEMENTATION. Each operation makes room for `kRoom` characters before it adds any, and again before it adds more
+/// than that. Only long strings fill the rest of the buffer. What is beyond a full piece moves to the front of the next
+/// one.
 class OutputStream {
  public:
   using Ch = char;
