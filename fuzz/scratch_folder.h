@@ -15,10 +15,10 @@ using Files = std::map<std::string, std::string>;
 /// The first call creates the scratch folder and makes it the current folder. It is removed when the process exits.
 void enterScratchFolder();
 
-/// Returns the files of the scratch folder.
+/// Returns the files of the scratch folder, which must be the current folder.
 Files readScratchFiles();
 
-/// Replaces all files of the scratch folder.
+/// Replaces all files of the current folder, which must be the scratch folder: they are deleted.
 void writeScratchFiles(const Files& files);
 
 /// Loads a file with this content, as `loadDocument` does. Returns whether it loads.

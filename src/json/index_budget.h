@@ -8,7 +8,7 @@ namespace kovalt {
 
 /// What the lookups of one index may spend on it.
 ///
-/// A lookup earns what it would cost to scan: one comparison for each member or element before the one that ends the
+/// A lookup earns about what a scan would cost: one comparison for each member or element before the one that ends the
 /// search, or for all of them if none does, and one for each value inside an element that it compared. Each entry that
 /// is added to the index costs as much as `kEntryCost` comparisons. An element counts as one entry, and as one more for
 /// each item if an array selects it. What is not in the index is scanned. So lookups never cost more than twice what
