@@ -23,8 +23,8 @@ TERMS = """\
 - **Instructions**: executed in user mode, counted by callgrind in an environment with only PATH. The counts are
   repeatable.
 - **Times** are medians of several rounds, in which the programs take turns. A ratio is the median of the ratios of the
-  rounds. Before programs are timed against each other, their outputs are compared, except those of gron and yq
-  on files of 5 MB.
+  rounds. Before another tool is timed, its result is compared with that of Kovalt, except those of gron and yq on
+  files of 5 MB.
 - **Held** and **missed**: whether Kovalt stays within a limit that it has to meet. In the tables of programs, a limit
   in MB applies to the memory of Kovalt, and any other limit to the ratio of the times."""
 

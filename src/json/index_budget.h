@@ -11,8 +11,8 @@ namespace kovalt {
 /// A lookup earns about what a scan would cost: one comparison for each member or element before the one that ends the
 /// search, or for all of them if none does, and one for each value inside an element that it compared. Each entry that
 /// is added to the index costs as much as `kEntryCost` comparisons. An element counts as one entry, and as one more for
-/// each item if an array selects it. What is not in the index is scanned. So lookups never cost more than twice what
-/// scans alone would cost, whatever a file contains and however often it changes.
+/// each item if the member that selects it is an array. What is not in the index is scanned. So lookups never cost more
+/// than twice what scans alone would cost, whatever a file contains and however often it changes.
 class IndexBudget {
  public:
   /// About how many comparisons take as long as adding one entry to an index. Objects and arrays with no more members

@@ -34,7 +34,7 @@ void removeEmptyAncestors(const std::vector<std::string>& steps, const std::vect
                           MemberFinder& members) {
   for (std::size_t i = ancestors.size() - 1; i > 0; --i) {
     if (ancestors[i] == nullptr || ancestors[i - 1] == nullptr) {
-      // A path with a skipped step does not say which objects to clear: abort before anything is printed or saved.
+      // A path with a skipped step does not say which objects to clear: abort before anything is displayed or saved.
       abortProcess();
     }
     if (ancestors[i]->ObjectEmpty()) {
